@@ -1,0 +1,1 @@
+// Carries the precompiled header that code without windows shares.

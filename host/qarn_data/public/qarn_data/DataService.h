@@ -1,0 +1,35 @@
+#pragma once
+
+#include <qarn_data/Export.h>
+
+#include <QObject>
+#include <QString>
+
+namespace qarn_data
+{
+
+/// Opens and closes the store behind PersonData. Host only. Belongs to the GUI thread, in which it also
+/// announces what other processes changed.
+class QARN_DATA_EXPORT DataService : public QObject
+{
+    Q_OBJECT
+public:
+    static DataService& instance();
+
+    /// Opens the store at a file path, or ":memory:"; makes a new one where there is no file yet. On
+    /// failure returns false, tells file and cause in `error`, and leaves the file as it was.
+    bool open(const QString& location, QString* error = nullptr);
+    void close();
+    bool isOpen() const;
+    /// Writes a consistent copy to `filePath` while the store stays in use.
+    bool backup(const QString& filePath, QString* error = nullptr);
+
+signals:
+    /// A refused write, in words for the operator. Emitted once a refusal, in the writing thread.
+    void signalFailed(const QString& text);
+
+private:
+    DataService();
+};
+
+} // namespace qarn_data
