@@ -39,7 +39,7 @@ const char* const styleSheets[] = {
 
 PersonInfoWt::PersonInfoWt(const PersonInfo& info, QWidget* parent)
     : PEWidget(parent),
-      ui(std::make_unique<Ui::PersonInfoWt>())
+      m_ui(std::make_unique<Ui::PersonInfoWt>())
 {
     m_ui->setupUi(this);
     setStyleState(NormalStyle);

@@ -36,7 +36,7 @@ bool TextCell::event(QEvent* event)
     bool cut = false;
     visibleLines(&cut);
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
-                       cut ? Qt::convertFromPlainText(text()) : QString(), this);
+                       cut ? QStringLiteral("<p>%1</p>").arg(text().toHtmlEscaped()) : QString(), this);
     return true;
 }
 
