@@ -51,12 +51,13 @@ inline void expectFile(ModalDriver& modal, const QString& path)
 
 inline QString samplePath(const QString& relative)
 {
-    const QString root = qEnvironmentVariable("QARN_SAMPLE_DATA", QStringLiteral(QARN_SOURCE_DIR "/../shared/data"));
+    const QString root =
+        qEnvironmentVariable("QARN_SAMPLE_DATA", QStringLiteral(QARN_SOURCE_DIR "/../shared/data"));
     return root + QLatin1Char('/') + relative;
 }
 
-#define SKIP_WITHOUT_SAMPLES()                                                                                \
-    if (!QFileInfo::exists(samplePath(QStringLiteral("faces.tsv"))))                                          \
+#define SKIP_WITHOUT_SAMPLES()                                                                               \
+    if (!QFileInfo::exists(samplePath(QStringLiteral("faces.tsv"))))                                         \
     QSKIP("no sample data; set QARN_SAMPLE_DATA to its directory")
 
 inline QByteArray encoded(const QImage& image, const char* format = "jpg")
@@ -68,7 +69,8 @@ inline QByteArray encoded(const QImage& image, const char* format = "jpg")
     return bytes;
 }
 
-inline QByteArray plainPicture(const QColor& color, const QSize& size = QSize(60, 80), const char* format = "jpg")
+inline QByteArray plainPicture(const QColor& color, const QSize& size = QSize(60, 80),
+                               const char* format = "jpg")
 {
     QImage image(size, QImage::Format_RGB32);
     image.fill(color);

@@ -73,7 +73,8 @@ private:
 void tst_CustomFieldsModifyDlg::init()
 {
     m_store = std::make_unique<TestStore>();
-    m_alerts = std::make_unique<QSignalSpy>(&SystemAssistant::instance(), &SystemAssistant::signalMessageAlert);
+    m_alerts =
+        std::make_unique<QSignalSpy>(&SystemAssistant::instance(), &SystemAssistant::signalMessageAlert);
 }
 
 void tst_CustomFieldsModifyDlg::cleanup()

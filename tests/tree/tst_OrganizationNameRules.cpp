@@ -47,12 +47,18 @@ void tst_OrganizationNameRules::looksOnlyAtOtherSiblings_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("id");
     QTest::addColumn<bool>("taken");
-    QTest::newRow("own name") << "Sales" << "1" << false;
-    QTest::newRow("sibling's name") << "Works" << "1" << true;
-    QTest::newRow("case differs") << "works" << "1" << false;
-    QTest::newRow("blank differs") << "Works " << "1" << false;
-    QTest::newRow("new one, taken") << "Sales" << "" << true;
-    QTest::newRow("new one, free") << "Office" << "" << false;
+    QTest::newRow("own name") << "Sales"
+                              << "1" << false;
+    QTest::newRow("sibling's name") << "Works"
+                                    << "1" << true;
+    QTest::newRow("case differs") << "works"
+                                  << "1" << false;
+    QTest::newRow("blank differs") << "Works "
+                                   << "1" << false;
+    QTest::newRow("new one, taken") << "Sales"
+                                    << "" << true;
+    QTest::newRow("new one, free") << "Office"
+                                   << "" << false;
 }
 
 void tst_OrganizationNameRules::looksOnlyAtOtherSiblings()

@@ -127,7 +127,8 @@ void tst_PersonMgrTree::init()
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
     m_modal = std::make_unique<ModalDriver>();
-    m_alerts = std::make_unique<QSignalSpy>(&SystemAssistant::instance(), &SystemAssistant::signalMessageAlert);
+    m_alerts =
+        std::make_unique<QSignalSpy>(&SystemAssistant::instance(), &SystemAssistant::signalMessageAlert);
     m_rootId = PersonData::instance().getRootOrganizationId();
     QVERIFY(m_tree->getOrganizationItem(m_rootId) != nullptr);
 }
