@@ -62,5 +62,6 @@ int main(int argc, char** argv)
             StatementReplay replay(files.copy(empty, QStringLiteral("peer.db")), inserts);
             return milliseconds([&] { replay.run(); });
         });
+    requireSameRows(files.path(QStringLiteral("recorded.db")), files.path(QStringLiteral("peer.db")));
     return report(figure);
 }

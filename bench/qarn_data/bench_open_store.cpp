@@ -13,8 +13,6 @@
 
 #include <QCoreApplication>
 
-#include <vector>
-
 using namespace qarn_bench;
 using qarn_personMgr::PersonMgrWorker;
 
@@ -40,25 +38,15 @@ int measureOurs(const QString& path)
     return printMeasure(time);
 }
 
-// What the service reads, too; the log of changes is only for processes that are already open.
-std::vector<std::string> tables(sqlite3* connection)
-{
-    std::vector<std::string> names;
-    const SqliteStatement query =
-        prepare(connection, "SELECT name FROM sqlite_master WHERE type = 'table'"
-                            " AND name <> 'change_log' AND name NOT LIKE 'sqlite_%'");
-    while (sqlite3_step(query.get()) == SQLITE_ROW)
-        names.emplace_back(reinterpret_cast<const char*>(sqlite3_column_text(query.get(), 0)));
-    return names;
-}
-
 int measurePeer(const QString& path)
 {
     qint64 rows = 0;
     const double time = milliseconds([&] {
         const SqliteConnection connection = openSqlite(path);
-        for (const std::string& table : tables(connection.get()))
-            rows += touchAll(prepare(connection.get(), "SELECT * FROM " + table).get());
+        for (const std::string& table : tableNames(connection.get())) {
+            if (table != "change_log") // only for processes that have the store open already
+                rows += touchAll(prepare(connection.get(), "SELECT * FROM " + table).get());
+        }
     });
     if (rows < 2 * PersonCount)
         qFatal("the peer has read %lld rows only", static_cast<long long>(rows));

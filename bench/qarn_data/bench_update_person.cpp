@@ -81,5 +81,6 @@ int main(int argc, char** argv)
             StatementReplay replay(files.copy(store, QStringLiteral("peer.db")), updates);
             return milliseconds([&] { replay.run(); });
         });
+    requireSameRows(files.path(QStringLiteral("recorded.db")), files.path(QStringLiteral("peer.db")));
     return report(figure);
 }

@@ -89,7 +89,8 @@ qarn_data::PersonInfo People::next(const QString& organizationId)
     person.sex = 1 + m_random.bounded(2);
     person.phoneNum = QString::number(10000000000LL + qint64(m_random.generate()));
     const QDate today = QDate::currentDate();
-    person.validStartTime = QDateTime(today.addDays(-m_random.bounded(700)), QTime(8, 0));
+    person.validStartTime = QDateTime(today.addDays(-m_random.bounded(700)),
+                                      QTime::fromMSecsSinceStartOfDay(m_random.bounded(86400000)));
     person.validEndTime = person.validStartTime.addDays(365);
     person.birthDate = QDate(1950, 1, 1).addDays(m_random.bounded(20000));
     person.employDate = today.addDays(-m_random.bounded(9000));

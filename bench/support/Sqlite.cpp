@@ -47,6 +47,16 @@ void execute(sqlite3* connection, const std::string& sql)
         qFatal("%s: %s", sql.c_str(), sqlite3_errmsg(connection));
 }
 
+std::vector<std::string> tableNames(sqlite3* connection)
+{
+    std::vector<std::string> names;
+    const SqliteStatement query = prepare(
+        connection, "SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite_%'");
+    while (sqlite3_step(query.get()) == SQLITE_ROW)
+        names.emplace_back(reinterpret_cast<const char*>(sqlite3_column_text(query.get(), 0)));
+    return names;
+}
+
 qint64 touchAll(sqlite3_stmt* statement)
 {
     qint64 rows = 0;

@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace qarn_bench
 {
@@ -22,6 +23,7 @@ using SqliteStatement = std::unique_ptr<sqlite3_stmt, SqliteCloser>;
 SqliteConnection openSqlite(const QString& path);
 SqliteStatement prepare(sqlite3* connection, const std::string& sql);
 void execute(sqlite3* connection, const std::string& sql);
+std::vector<std::string> tableNames(sqlite3* connection); ///< without SQLite's own
 /// Reads every value of every row that is left, as what it is; the number of rows.
 qint64 touchAll(sqlite3_stmt* statement);
 

@@ -55,4 +55,18 @@ void StatementReplay::runEntry(const RecordedStatements::Entry& entry)
     sqlite3_reset(statement);
 }
 
+void requireSameRows(const QString& store, const QString& other)
+{
+    const SqliteConnection connection = openSqlite(store);
+    execute(connection.get(), "ATTACH '" + other.toStdString() + "' AS other");
+    for (const std::string& table : tableNames(connection.get())) {
+        for (const std::string& difference :
+             {"SELECT * FROM main." + table + " EXCEPT SELECT * FROM other." + table,
+              "SELECT * FROM other." + table + " EXCEPT SELECT * FROM main." + table}) {
+            if (touchAll(prepare(connection.get(), difference).get()) > 0)
+                qFatal("the peer's table %s differs", table.c_str());
+        }
+    }
+}
+
 } // namespace qarn_bench

@@ -25,4 +25,7 @@ private:
     std::vector<SqliteStatement> m_statements; ///< after the connection: goes first
 };
 
+/// Ends the program unless two closed stores hold the same rows: a peer that did less measures nothing.
+void requireSameRows(const QString& store, const QString& other);
+
 } // namespace qarn_bench
