@@ -43,7 +43,8 @@ private:
         const Action action = m_actions.takeFirst();
         if (m_actions.isEmpty())
             m_timer.stop();
-        action(window);
+        // Not in here: while the action opens a further window, this timer must be able to fire again.
+        QMetaObject::invokeMethod(window, [action, window] { action(window); }, Qt::QueuedConnection);
     }
 
     QTimer m_timer;
