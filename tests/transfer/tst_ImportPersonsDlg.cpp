@@ -83,7 +83,7 @@ ModalDriver::Action answer(const QString& path, QString* caption = nullptr)
             return;
         }
         part<QLineEdit>(*dialog, "fileNameEdit")->setText(path);
-        QMetaObject::invokeMethod(dialog, "accept");
+        QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection); // it may ask something in turn
     };
 }
 
