@@ -8,7 +8,8 @@ namespace XCOMMON
 {
 
 /// File dialog of the host's look, with the contract of the Qt functions of the same names: an empty
-/// result means that the operator cancelled.
+/// result means that the operator cancelled. A name to save under gets the suffix of the chosen filter when
+/// it has none of it, and an existing file is only given back after the operator agreed to replace it.
 class XCOMMON_EXPORT XFileDialog : public QFileDialog
 {
     Q_OBJECT
@@ -24,6 +25,9 @@ public:
     static QString getSaveFileName(QWidget* parent = nullptr, const QString& caption = QString(),
                                    const QString& dir = QString(), const QString& filter = QString(),
                                    QString* selectedFilter = nullptr, Options options = Options());
+
+protected:
+    void accept() override;
 };
 
 } // namespace XCOMMON

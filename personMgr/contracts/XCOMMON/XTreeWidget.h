@@ -8,6 +8,7 @@ namespace XCOMMON
 {
 
 /// Tree with at most one selected item. Reports a change of the selection with the new and the old item.
+/// When the selected item is removed, nothing is selected. Space checks and unchecks the current item.
 class XCOMMON_EXPORT XTreeWidget : public QTreeWidget
 {
     Q_OBJECT
@@ -27,11 +28,14 @@ signals:
 protected:
     void startDrag(Qt::DropActions supportedActions) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
 
 private:
     void reportSelection();
+    void reportRemoval();
 
-    QTreeWidgetItem* m_reportedItem = nullptr;
+    QTreeWidgetItem* m_reportedItem = nullptr; ///< never an item that is gone
+    bool m_removingReported = false;
 };
 
 } // namespace XCOMMON

@@ -4,6 +4,11 @@
 
 #include <QObject>
 
+#include <mutex>
+#include <vector>
+
+class QThread;
+
 namespace XCOMMON
 {
 
@@ -21,7 +26,21 @@ signals:
     void signalAllFinished(); ///< the last running thread has ended; emitted in its thread
 
 private:
+    friend class XThread;
+
+    struct Entry {
+        const QThread* thread;
+        bool ended; ///< its run is over, although QThread::isRunning() may still say otherwise
+    };
+
     ThreadRegistry();
+    int countRunning() const;
+    void add(const QThread* thread);
+    void remove(const QThread* thread);
+    void setEnded(const QThread* thread, bool ended);
+
+    mutable std::mutex m_mutex;
+    std::vector<Entry> m_entries;
 };
 
 } // namespace XCOMMON

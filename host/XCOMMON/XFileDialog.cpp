@@ -1,0 +1,72 @@
+#include "FileDialogSuffix.h"
+
+#include <XCOMMON/XFileDialog.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLineEdit>
+
+namespace XCOMMON
+{
+
+namespace
+{
+
+QString run(XFileDialog& dialog, QString* selectedFilter)
+{
+    if (selectedFilter != nullptr && !selectedFilter->isEmpty())
+        dialog.selectNameFilter(*selectedFilter);
+    if (dialog.exec() != QDialog::Accepted)
+        return QString();
+    if (selectedFilter != nullptr)
+        *selectedFilter = dialog.selectedNameFilter();
+    return dialog.selectedFiles().value(0);
+}
+
+} // namespace
+
+XFileDialog::XFileDialog(QWidget* parent, const QString& caption, const QString& directory,
+                         const QString& filter)
+    : QFileDialog(parent, caption, directory, filter)
+{
+    setObjectName(QStringLiteral("XFileDialog"));
+    setOption(DontUseNativeDialog);
+}
+
+void XFileDialog::accept()
+{
+    auto* edit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    if (acceptMode() == AcceptSave && fileMode() == AnyFile && edit != nullptr &&
+        !QFileInfo(directory(), edit->text()).isDir())
+        edit->setText(withFilterSuffix(edit->text(), selectedNameFilter()));
+    QFileDialog::accept();
+}
+
+QString XFileDialog::getExistingDirectory(QWidget* parent, const QString& caption, const QString& dir,
+                                          Options options)
+{
+    XFileDialog dialog(parent, caption, dir);
+    dialog.setFileMode(Directory);
+    dialog.setOptions(options | DontUseNativeDialog);
+    return run(dialog, nullptr);
+}
+
+QString XFileDialog::getOpenFileName(QWidget* parent, const QString& caption, const QString& dir,
+                                     const QString& filter, QString* selectedFilter, Options options)
+{
+    XFileDialog dialog(parent, caption, dir, filter);
+    dialog.setFileMode(ExistingFile);
+    dialog.setOptions(options | DontUseNativeDialog);
+    return run(dialog, selectedFilter);
+}
+
+QString XFileDialog::getSaveFileName(QWidget* parent, const QString& caption, const QString& dir,
+                                     const QString& filter, QString* selectedFilter, Options options)
+{
+    XFileDialog dialog(parent, caption, dir, filter);
+    dialog.setAcceptMode(AcceptSave);
+    dialog.setOptions(options | DontUseNativeDialog);
+    return run(dialog, selectedFilter);
+}
+
+} // namespace XCOMMON

@@ -1,0 +1,105 @@
+#include "query/PersonMgrWorker.h"
+
+#include "query/PageRule.h"
+#include "query/PersonFilter.h"
+#include "query/PersonQueryCondition.h"
+
+#include <qarn_data/PersonData.h>
+
+#include <QSet>
+#include <algorithm>
+
+using qarn_data::PersonData;
+using qarn_data::PersonInfo;
+
+namespace qarn_personMgr
+{
+namespace
+{
+
+QList<PersonInfo> fetch(const QStringList& organizationIds)
+{
+    if (organizationIds.isEmpty())
+        return PersonData::instance().getAllPersons(false);
+    return PersonData::instance().getPersons(organizationIds, false);
+}
+
+/// Copies those who stay instead of removing the others: the fetched list is shared with the data service,
+/// and taking a single entry out of it would copy all of it first.
+QList<PersonInfo> filtered(const QList<PersonInfo>& persons, const PersonQueryCondition& condition)
+{
+    if (!isSelective(condition))
+        return persons;
+    QList<PersonInfo> kept;
+    PresentMoment now;
+    for (const PersonInfo& person : persons) {
+        if (matches(person, condition, now))
+            kept.append(person);
+    }
+    return kept;
+}
+
+QSet<QString> toSet(const QStringList& ids)
+{
+    return {ids.cbegin(), ids.cend()};
+}
+
+} // namespace
+
+PersonMgrWorker::PersonMgrWorker(QObject* parent) : QObject(parent) {}
+
+PersonMgrWorker& PersonMgrWorker::instance()
+{
+    static PersonMgrWorker worker(nullptr);
+    return worker;
+}
+
+void PersonMgrWorker::queryPersons(const PersonQueryCondition& condition)
+{
+    m_persons = filtered(fetch(condition.organizationIds), condition);
+    gotoPage(condition.curPage, condition.pageSize);
+}
+
+void PersonMgrWorker::showFirstPage(int pageSize)
+{
+    emit signalCurPagePersons(m_persons.mid(0, std::max(pageSize, 0)), 1, m_persons.count());
+}
+
+void PersonMgrWorker::gotoPage(int page, int pageSize)
+{
+    const PageSpan span = choosePage(m_persons.count(), page, pageSize);
+    emit signalCurPagePersons(m_persons.mid(span.first, span.count), span.number, m_persons.count());
+}
+
+void PersonMgrWorker::removeCachedPersons(const QStringList& ids)
+{
+    const QSet<QString> removed = toSet(ids);
+    const auto isRemoved = [&removed](const PersonInfo& person) { return removed.contains(person.id); };
+    if (std::none_of(m_persons.cbegin(), m_persons.cend(), isRemoved))
+        return;
+    m_persons.erase(std::remove_if(m_persons.begin(), m_persons.end(), isRemoved), m_persons.end());
+}
+
+void PersonMgrWorker::updateCachedPersons(const PersonInfo& info, const QStringList& ids)
+{
+    QSet<QString> pending = toSet(ids);
+    for (int i = 0; i < m_persons.count() && !pending.isEmpty(); ++i) {
+        if (!pending.remove(m_persons.at(i).id))
+            continue;
+        PersonInfo updated = info;
+        updated.id = m_persons.at(i).id;
+        updated.organizationId = m_persons.at(i).organizationId;
+        m_persons[i] = std::move(updated);
+    }
+}
+
+QStringList PersonMgrWorker::cachedPersonIds() const
+{
+    QStringList ids;
+    ids.reserve(m_persons.count());
+    for (const PersonInfo& person : m_persons)
+        ids.append(person.id);
+    return ids;
+}
+
+} // namespace qarn_personMgr

@@ -1,0 +1,115 @@
+#include "transfer/ExportPersonsThread.h"
+
+#include "transfer/FaceFileName.h"
+#include "transfer/PersonFileFormat.h"
+#include "transfer/PersonFileWriter.h"
+
+#include <XCOMMON/PhotoDecoder.h>
+#include <qarn_base/BaseTools.h>
+#include <qarn_data/PersonData.h>
+
+#include <QSaveFile>
+
+using qarn_data::PersonData;
+using qarn_data::PersonInfo;
+
+namespace qarn_personMgr
+{
+
+ExportPersonsThread::ExportPersonsThread(const QStringList& organizationIds, const QStringList& headerTitles,
+                                         int columnMask, const QString& filePath, QObject* parent)
+    : XThread(parent),
+      m_organizationIds(organizationIds),
+      m_headerTitles(headerTitles),
+      m_columnMask(columnMask),
+      m_faceMode(false),
+      m_path(filePath)
+{
+}
+
+ExportPersonsThread::ExportPersonsThread(const QStringList& organizationIds, const QList<int>& faceElements,
+                                         const QString& dirPath, QObject* parent)
+    : XThread(parent),
+      m_organizationIds(organizationIds),
+      m_faceElements(faceElements),
+      m_faceMode(true),
+      m_path(dirPath)
+{
+}
+
+ExportPersonsThread::~ExportPersonsThread()
+{
+    wait(); // the run uses the members, which are gone before the base class would wait
+}
+
+void ExportPersonsThread::run()
+{
+    const QList<PersonInfo> persons = PersonData::instance().getPersons(m_organizationIds, false);
+    if (!m_faceMode) {
+        emit signalExportPersonsResult(exportFile(persons));
+        return;
+    }
+    for (const PersonInfo& person : persons)
+        exportFace(person);
+    emit signalExportPersonsResult(true);
+}
+
+bool ExportPersonsThread::exportFile(const QList<PersonInfo>& persons)
+{
+    PersonFileWriter writer(m_path);
+    if (!writer.open())
+        return false;
+    m_organizationNames.clear();
+    writer.writeRow(m_headerTitles);
+    for (const PersonInfo& person : persons)
+        writer.writeRow(row(person));
+    return writer.finish();
+}
+
+QStringList ExportPersonsThread::row(const PersonInfo& person)
+{
+    QStringList values;
+    const auto has = [this](PersonColumn column) { return (m_columnMask & column) != 0; };
+    if (has(SerialNumColumn))
+        values.append(person.serialNum);
+    if (has(NameColumn))
+        values.append(person.name);
+    if (has(OrganizationColumn))
+        values.append(organizationName(person.organizationId));
+    if (has(SexColumn))
+        values.append(qarn_base::BaseTools::instance().strSex(person.sex == 1));
+    if (has(EmailColumn))
+        values.append(person.email);
+    if (has(PhoneNumColumn))
+        values.append(person.phoneNum);
+    if (has(IdentityIdColumn))
+        values.append(person.identityId);
+    if (has(ValidTimeColumn))
+        values.append(exportedDate(person.validStartTime));
+    if (has(InvalidTimeColumn))
+        values.append(exportedDate(person.validEndTime));
+    return values;
+}
+
+QString ExportPersonsThread::organizationName(const QString& organizationId)
+{
+    auto known = m_organizationNames.constFind(organizationId);
+    if (known == m_organizationNames.constEnd())
+        known = m_organizationNames.insert(
+            organizationId, PersonData::instance().getOrganizationNameRecursively(organizationId));
+    return *known;
+}
+
+void ExportPersonsThread::exportFace(const PersonInfo& person) const
+{
+    const QImage image = XCOMMON::PhotoDecoder::decode(person.faceImage1);
+    if (image.isNull())
+        return;
+    // Written beside the target first: a full disk leaves the file of that name as it was.
+    QSaveFile file(m_path + QLatin1Char('/') + exportedFaceFileName(person, m_faceElements) +
+                   QLatin1String(".jpg"));
+    if (file.open(QIODevice::WriteOnly) && image.save(&file, "jpg"))
+        file.commit();
+}
+
+} // namespace qarn_personMgr

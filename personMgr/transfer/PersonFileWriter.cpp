@@ -1,0 +1,38 @@
+#include "transfer/PersonFileWriter.h"
+
+#include "transfer/PersonFileFormat.h"
+
+#include <QFileInfo>
+
+namespace qarn_personMgr
+{
+
+PersonFileWriter::PersonFileWriter(const QString& filePath) : m_file(filePath)
+{
+    // A file in a directory that takes no new ones can still be rewritten in place.
+    m_file.setDirectWriteFallback(true);
+}
+
+bool PersonFileWriter::open()
+{
+    const QFileInfo target(m_file.fileName());
+    if (target.exists() && !target.isFile())
+        return false;
+    if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text))
+        return false;
+    m_stream.setDevice(&m_file);
+    return true;
+}
+
+void PersonFileWriter::writeRow(const QStringList& fields)
+{
+    m_stream << personFileLine(fields);
+}
+
+bool PersonFileWriter::finish()
+{
+    m_stream.flush();
+    return m_file.commit();
+}
+
+} // namespace qarn_personMgr
