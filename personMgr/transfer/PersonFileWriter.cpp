@@ -16,7 +16,7 @@ PersonFileWriter::PersonFileWriter(const QString& filePath) : m_file(filePath)
 bool PersonFileWriter::open()
 {
     const QFileInfo target(m_file.fileName());
-    if (target.exists() && !target.isFile())
+    if (m_file.fileName().isEmpty() || (target.exists() && !target.isFile()))
         return false;
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text))
         return false;
@@ -32,6 +32,8 @@ void PersonFileWriter::writeRow(const QStringList& fields)
 bool PersonFileWriter::finish()
 {
     m_stream.flush();
+    if (m_stream.status() != QTextStream::Ok) // a write that was cut short is no error to the file
+        m_file.cancelWriting();
     return m_file.commit();
 }
 

@@ -1,0 +1,207 @@
+#include "editor/CustomFieldsModifyDlg.h"
+
+#include "editor/CustomFieldRules.h"
+#include "editor/FieldNameDelegate.h"
+#include "ui_CustomFieldsModifyDlg.h"
+
+#include <qarn_base/EditOperWt.h>
+#include <qarn_base/XMessageBox.h>
+#include <qarn_data/PersonData.h>
+#include <qarn_worker/DictDef.h>
+#include <qarn_worker/SystemAssistant.h>
+
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QSet>
+#include <QUuid>
+
+using qarn_base::EditOperWt;
+using qarn_base::XMessageBox;
+using qarn_data::PersonData;
+
+namespace qarn_personMgr
+{
+
+namespace
+{
+constexpr int NameColumnWidth = 200;
+
+void warn(const QString& text)
+{
+    qarn_worker::SystemAssistant::instance().messageAlert(qarn_worker::DictDef::instance().warningAlertTitle,
+                                                          text);
+}
+} // namespace
+
+CustomFieldsModifyDlg::CustomFieldsModifyDlg(QWidget* parent)
+    : CommonDialog(parent),
+      m_ui(std::make_unique<Ui::CustomFieldsModifyDlg>()),
+      m_nameDelegate(new FieldNameDelegate(this))
+{
+    m_ui->setupUi(this);
+    setTitle(tr("Custom Fields Set"));
+    setUpTable();
+    makeConnections();
+    const QStringList fields = PersonData::instance().getCustomFields();
+    for (const QString& name : fields)
+        appendRow(name);
+}
+
+CustomFieldsModifyDlg::~CustomFieldsModifyDlg() = default;
+
+void CustomFieldsModifyDlg::setUpTable()
+{
+    const QString icon = QStringLiteral(":/images/images/add_iconBt_n.png");
+    m_ui->addFieldBt->setIcons(icon, icon);
+
+    m_ui->tableWidget->setItemDelegateForColumn(NameColumn, m_nameDelegate);
+    m_ui->tableWidget->setEditTriggers(QAbstractItemView::EditKeyPressed);
+    QHeaderView* header = m_ui->tableWidget->horizontalHeader();
+    header->setSectionResizeMode(NameColumn, QHeaderView::Fixed);
+    header->resizeSection(NameColumn, NameColumnWidth);
+    header->setSectionResizeMode(OperColumn, QHeaderView::Stretch);
+}
+
+void CustomFieldsModifyDlg::makeConnections()
+{
+    connect(m_ui->addFieldBt, &QPushButton::clicked, this, &CustomFieldsModifyDlg::addField);
+    connect(m_ui->okBt, &QPushButton::clicked, this, &CustomFieldsModifyDlg::save);
+    connect(m_ui->cancelBt, &QPushButton::clicked, this, &CustomFieldsModifyDlg::reject);
+    connect(m_ui->tableWidget, &QTableWidget::cellDoubleClicked, this, [this](int row, int column) {
+        if (column == NameColumn)
+            editName(m_ui->tableWidget->item(row, NameColumn)->data(RowIdRole).toString());
+    });
+    connect(m_nameDelegate, &FieldNameDelegate::signalEditorOpened, &m_editorWatch,
+            [this](QLineEdit* editor, const QModelIndex& index) { nameEditorOpened(editor, index); });
+}
+
+void CustomFieldsModifyDlg::appendRow(const QString& name)
+{
+    const QString rowId = QUuid::createUuid().toString();
+    auto* item = new QTableWidgetItem(name);
+    item->setFlags(item->flags() | Qt::ItemIsEditable);
+    item->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    item->setToolTip(name);
+    item->setData(AcceptedNameRole, name);
+    item->setData(RowIdRole, rowId);
+
+    auto* operWt = new EditOperWt(rowId);
+    connect(operWt, &EditOperWt::signalEditBtClicked, this, &CustomFieldsModifyDlg::editName);
+    connect(operWt, &EditOperWt::signalDeleteBtClicked, this, &CustomFieldsModifyDlg::deleteField);
+
+    const int row = m_ui->tableWidget->rowCount();
+    m_ui->tableWidget->insertRow(row);
+    m_ui->tableWidget->setItem(row, NameColumn, item);
+    m_ui->tableWidget->setCellWidget(row, OperColumn, operWt);
+}
+
+void CustomFieldsModifyDlg::addField()
+{
+    settleNameEdit();
+    if (m_ui->tableWidget->rowCount() >= MaxCustomFields) {
+        warn(tr("the maximum number of custom fields has been reached"));
+        return;
+    }
+    const QStringList taken = names();
+    appendRow(defaultCustomFieldName(tr("Custom Field"), QSet<QString>(taken.cbegin(), taken.cend())));
+    QTableWidgetItem* added = m_ui->tableWidget->item(m_ui->tableWidget->rowCount() - 1, NameColumn);
+    m_ui->tableWidget->scrollToItem(added);
+    editName(added->data(RowIdRole).toString());
+}
+
+void CustomFieldsModifyDlg::editName(const QString& rowId)
+{
+    QTableWidgetItem* item = nameItem(rowId);
+    if (item == nullptr || (m_nameEditor != nullptr && m_editedRowId == rowId))
+        return;
+    settleNameEdit();
+    m_ui->tableWidget->setCurrentItem(item);
+    m_ui->tableWidget->editItem(item);
+}
+
+void CustomFieldsModifyDlg::deleteField(const QString& rowId)
+{
+    settleNameEdit();
+    const auto answer = XMessageBox::question(this, tr("Do you want to delete this custom field?"),
+                                              XMessageBox::Ok | XMessageBox::Cancel, false);
+    if (answer != XMessageBox::Ok)
+        return;
+    if (const QTableWidgetItem* item = nameItem(rowId))
+        m_ui->tableWidget->removeRow(item->row());
+}
+
+void CustomFieldsModifyDlg::save()
+{
+    settleNameEdit();
+    PersonData::instance().resetCustomFields(names());
+    accept();
+}
+
+void CustomFieldsModifyDlg::nameEditorOpened(QLineEdit* editor, const QModelIndex& index)
+{
+    const QString rowId = index.data(RowIdRole).toString();
+    m_nameEditor = editor;
+    m_editedRowId = rowId;
+    // Rows that light up under the mouse would disturb the editor.
+    m_ui->tableWidget->setMouseTracking(false);
+    connect(editor, &QObject::destroyed, &m_editorWatch, [this, rowId] {
+        checkName(rowId);
+        m_ui->tableWidget->setMouseTracking(m_nameEditor == nullptr); // not while the next one is open
+    });
+}
+
+void CustomFieldsModifyDlg::settleNameEdit()
+{
+    if (m_nameEditor == nullptr)
+        return;
+    // An editor that the table has closed lives until control returns to the event loop; it has nothing to
+    // hand over any more.
+    const QTableWidgetItem* item = nameItem(m_editedRowId);
+    if (item != nullptr && m_ui->tableWidget->cellWidget(item->row(), NameColumn) == m_nameEditor)
+        m_nameDelegate->finishEditing(m_nameEditor);
+    m_nameEditor.clear();
+    checkName(m_editedRowId);
+}
+
+void CustomFieldsModifyDlg::checkName(const QString& rowId)
+{
+    QTableWidgetItem* item = nameItem(rowId);
+    if (item == nullptr)
+        return;
+    const QString accepted = item->data(AcceptedNameRole).toString();
+    switch (decideRename(accepted, item->text(), names(item))) {
+    case RenameDecision::Unchanged:
+        break;
+    case RenameDecision::Refused:
+        item->setText(accepted);
+        warn(tr("custom field name has exist"));
+        break;
+    case RenameDecision::Accepted:
+        item->setData(AcceptedNameRole, item->text());
+        item->setToolTip(item->text());
+        break;
+    }
+}
+
+QTableWidgetItem* CustomFieldsModifyDlg::nameItem(const QString& rowId) const
+{
+    for (int row = 0; row < m_ui->tableWidget->rowCount(); ++row) {
+        QTableWidgetItem* item = m_ui->tableWidget->item(row, NameColumn);
+        if (item->data(RowIdRole).toString() == rowId)
+            return item;
+    }
+    return nullptr;
+}
+
+QStringList CustomFieldsModifyDlg::names(const QTableWidgetItem* except) const
+{
+    QStringList texts;
+    for (int row = 0; row < m_ui->tableWidget->rowCount(); ++row) {
+        const QTableWidgetItem* item = m_ui->tableWidget->item(row, NameColumn);
+        if (item != except)
+            texts.append(item->text());
+    }
+    return texts;
+}
+
+} // namespace qarn_personMgr

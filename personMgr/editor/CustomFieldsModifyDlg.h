@@ -1,0 +1,63 @@
+#pragma once
+
+#include <qarn_base/CommonDialog.h>
+
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+#include <memory>
+
+class QLineEdit;
+class QModelIndex;
+class QTableWidgetItem;
+
+namespace qarn_personMgr
+{
+
+class FieldNameDelegate;
+
+namespace Ui
+{
+class CustomFieldsModifyDlg;
+}
+
+/// Lets the operator define the custom fields of the register; opened by the persons page. Nothing is stored
+/// before "Ok".
+class CustomFieldsModifyDlg : public qarn_base::CommonDialog
+{
+    Q_OBJECT
+public:
+    explicit CustomFieldsModifyDlg(QWidget* parent);
+    ~CustomFieldsModifyDlg() override;
+
+private:
+    enum Column { NameColumn = 0, OperColumn = 1 };
+    enum Role { AcceptedNameRole = Qt::UserRole, RowIdRole = Qt::UserRole + 1 };
+
+    void setUpTable();
+    void makeConnections();
+    void appendRow(const QString& name);
+
+    void addField();
+    void editName(const QString& rowId);
+    void deleteField(const QString& rowId);
+    void save();
+
+    void nameEditorOpened(QLineEdit* editor, const QModelIndex& index);
+    /// Ends a running edit and checks its name now instead of when the editor has gone.
+    void settleNameEdit();
+    void checkName(const QString& rowId);
+
+    QTableWidgetItem* nameItem(const QString& rowId) const; ///< null when the row is gone
+    QStringList names(const QTableWidgetItem* except = nullptr) const;
+
+    std::unique_ptr<Ui::CustomFieldsModifyDlg> m_ui;
+    FieldNameDelegate* m_nameDelegate; ///< owned by this dialog
+    QPointer<QLineEdit> m_nameEditor;
+    QString m_editedRowId;
+    /// Receiver of what the line editors report. It goes with the members, before the child widgets: an
+    /// editor that dies with the dialog is not answered by a half destroyed one.
+    QObject m_editorWatch;
+};
+
+} // namespace qarn_personMgr
