@@ -23,6 +23,9 @@ public:
     QList<QPair<QString, int>> getCheckedChannels() const;
 
 private:
+    void build(const QString& prompt, const QString& acceptText);
+    void confirm();
+
     struct Private;
     std::unique_ptr<Private> p;
 };

@@ -5,6 +5,12 @@
 
 #include <QList>
 #include <QPair>
+#include <QSet>
+
+namespace qarn_data
+{
+struct Device;
+}
 
 namespace qarn_base
 {
@@ -25,7 +31,14 @@ public:
     /// Device id and channel number of every checked channel, in the order shown.
     QList<QPair<QString, int>> getCheckedChannels() const;
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
+    void refresh();
+    void addDevice(const qarn_data::Device& device, const QSet<QPair<QString, int>>& checked, bool expanded);
+    static void showOffline(TreeItem& device);
+
     struct Private;
     std::unique_ptr<Private> p;
 };

@@ -21,6 +21,8 @@ public:
     ~CommonDialog() override;
 
     void setTitle(const QString& title);
+    /// A dialog that is larger than its screen shrinks to it when it is shown, and its contents scroll.
+    void setVisible(bool visible) override;
 
 public slots:
     void slotCloseBtClicked();
@@ -32,7 +34,6 @@ protected:
 
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    void showEvent(QShowEvent* event) override;
 
 private:
     struct Private;

@@ -32,6 +32,8 @@ public:
     void addTreeItem(TreeItem* item, TreeItem* parent);
     /// Removes the item and all below it.
     void removeTreeItem(TreeItem* item);
+    /// Moves the item with all below it; what is expanded and selected stays so.
+    void moveTreeItem(TreeItem* item, TreeItem* parent, int position);
 
 protected:
     /// The buttons to show on an item; null shows none. Called when they are first needed; the tree owns
@@ -43,6 +45,11 @@ protected:
     void keyPressEvent(QKeyEvent* event) override; ///< F2 edits, Delete deletes the selected item
 
 private:
+    void noteInserted(const QModelIndex& parent, int first, int last);
+    void forgetRemoved(const QModelIndex& parent, int first, int last);
+    void setHovered(const QModelIndex& index);
+    void updateButtons();
+
     struct Private;
     std::unique_ptr<Private> d;
 };

@@ -27,8 +27,11 @@ signals:
 protected:
     void showEvent(QShowEvent* event) override; ///< moved inside the screen
     void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
+    void confirm();
+
     struct Private;
     std::unique_ptr<Private> d;
 };

@@ -27,8 +27,12 @@ protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
+    void build(const QString& caption, const QString& description);
+
     struct Private;
     std::unique_ptr<Private> d;
 };

@@ -32,6 +32,9 @@ signals:
     void signalEditItem(const QString& id, const QString& name);
 
 private:
+    void confirm();
+    void addAndStay();
+
     struct Private;
     std::unique_ptr<Private> p;
 };

@@ -5,6 +5,11 @@
 
 #include <QString>
 
+namespace qarn_data
+{
+struct OrganizationInfo;
+}
+
 namespace qarn_base
 {
 
@@ -22,6 +27,11 @@ public:
     TreeItem* getOrganizationParentItem(const QString& id) const; ///< null when unknown or the root
 
 private:
+    void follow(const qarn_data::OrganizationInfo& organization, bool success);
+    void followDeletion(const QStringList& ids, bool success);
+    void prepareChange();
+    void reload();
+
     struct Private;
     std::unique_ptr<Private> p;
 };

@@ -21,7 +21,11 @@ public:
 
 signals:
     void signalTextChanged(const QString& text);
-    void signalSearchNext(); ///< Return or the arrow keys ask for the next match
+    void signalSearchNext();     ///< Return or Down asks for the next match
+    void signalSearchPrevious(); ///< Shift+Return or Up asks for the one before
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QLineEdit* m_searchLineEt;

@@ -18,6 +18,7 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    void setHoveredRow(int row); ///< -1: none
     void styleRow(int row, bool hovered);
 
     int m_hoveredRow = -1;

@@ -13,6 +13,7 @@ class QARN_BASE_EXPORT TreeItem : public QTreeWidgetItem
 {
 public:
     enum { Type = QTreeWidgetItem::UserType + 1 };
+    enum Role { IdRole = Qt::UserRole, ParentIdRole }; ///< of column 0
 
     TreeItem(const QString& id, const QString& parentId, const QString& name);
 
@@ -22,10 +23,6 @@ public:
 
     void setName(const QString& name);
     void setParentId(const QString& parentId);
-
-private:
-    QString m_id;
-    QString m_parentId;
 };
 
 } // namespace qarn_base

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QColor>
+
+/// Colours of the host's dark palette for what is painted by hand; everything else takes them from the
+/// client's style sheet.
+namespace qarn_base::colors
+{
+
+inline const QColor Window(0x0b, 0x12, 0x1e);
+inline const QColor Panel(0x14, 0x1f, 0x30);
+inline const QColor TitleBar(0x17, 0x23, 0x35);
+inline const QColor Line(0x21, 0x31, 0x47);
+inline const QColor Hover(0x21, 0x31, 0x47);
+inline const QColor Selected(0x29, 0x3a, 0x56);
+inline const QColor Text(0xcc, 0xd3, 0xdd);
+inline const QColor QuietText(0x8a, 0x95, 0xa6); ///< lighter than the palette, to be read on every panel
+inline const QColor Accent(0x2c, 0x7d, 0xce);
+inline const QColor ErrorText(0xf0, 0x7a, 0x7a); ///< light enough to be read on a panel
+inline const QColor Error(0xdc, 0x4d, 0x4d);
+
+} // namespace qarn_base::colors

@@ -1,0 +1,32 @@
+#include <qarn_base/SelDirLineEt.h>
+
+#include "FieldClick.h"
+
+namespace qarn_base
+{
+
+SelDirLineEt::SelDirLineEt(QWidget* parent) : XCOMMON::XLineEdit(parent)
+{
+    setReadOnly(true);
+    setCursor(Qt::PointingHandCursor);
+    setAccessibleDescription(tr("Press Return to choose a path"));
+}
+
+void SelDirLineEt::mouseReleaseEvent(QMouseEvent* event)
+{
+    XCOMMON::XLineEdit::mouseReleaseEvent(event);
+    if (isClick(*event, rect()))
+        emit signalClicked();
+}
+
+void SelDirLineEt::keyPressEvent(QKeyEvent* event)
+{
+    if (isPressKey(*event)) {
+        event->accept();
+        emit signalClicked();
+        return;
+    }
+    XCOMMON::XLineEdit::keyPressEvent(event);
+}
+
+} // namespace qarn_base
