@@ -17,7 +17,11 @@ namespace qarn_data
 /// A default-made record is ready for the add dialog: male, valid from now for one calendar month,
 /// employed today. Times are local; the store keeps them to the millisecond.
 struct QARN_DATA_EXPORT PersonInfo {
+    enum class Blank { Record };
+
     PersonInfo();
+    /// Without dates and times, hence without asking the clock: for code that fills every member.
+    explicit PersonInfo(Blank blank);
 
     QString id;             ///< names the record; empty until it is first saved
     QString organizationId; ///< empty: in no organization

@@ -23,6 +23,9 @@ public:
     bool isOpen() const;
     /// Writes a consistent copy to `filePath` while the store stays in use.
     bool backup(const QString& filePath, QString* error = nullptr);
+    /// Compares what is in memory with what is stored, and lets the database check itself. False, with the
+    /// first finding in `problem`, when they differ. Takes as long as opening the store does.
+    bool checkConsistency(QString* problem = nullptr);
 
 signals:
     /// A refused write, in words for the operator. Emitted once a refusal, in the writing thread.
@@ -30,6 +33,7 @@ signals:
 
 private:
     DataService();
+    ~DataService() override;
 };
 
 } // namespace qarn_data

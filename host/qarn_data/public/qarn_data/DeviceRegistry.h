@@ -52,6 +52,7 @@ signals:
 
 private:
     DeviceRegistry();
+    ~DeviceRegistry() override;
 };
 
 } // namespace qarn_data

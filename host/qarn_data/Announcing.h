@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Register.h"
+
+#include <qarn_data/OrganizationInfo.h>
+#include <qarn_data/PersonInfo.h>
+
+namespace qarn_data
+{
+
+// The notifications of successful changes, to be emitted later.
+Announcement personsAdded(const PersonList& persons);
+Announcement personUpdated(const PersonInfo& info, const QStringList& ids);
+Announcement personsDeleted(const QStringList& ids);
+Announcement organizationAdded(const OrganizationInfo& info);
+Announcement organizationUpdated(const OrganizationInfo& info);
+Announcement organizationsDeleted(const QStringList& ids);
+Announcement fieldsReset(const QStringList& names);
+Announcement devicesChanged();
+
+/// Tells the operator; does nothing when `text` is empty.
+void tellFailure(const QString& text);
+
+} // namespace qarn_data

@@ -1,0 +1,98 @@
+#pragma once
+
+#include <qarn_data/PersonInfo.h>
+
+#include <QHash>
+#include <QPair>
+#include <QSet>
+#include <QStringList>
+#include <QVector>
+
+namespace qarn_data
+{
+
+/// A record as the store knows it: numbers grow in the order of addition.
+struct StoredRecord {
+    qint64 number = 0;
+    qint64 person = 0; ///< records of one person share it
+    PersonInfo info{PersonInfo::Blank::Record};
+};
+
+/// All records in the order in which they were added, and the ways to find them. Handing out the whole
+/// list costs nothing; texts and images are shared, never copied. Not locked: Register sees to that.
+class PersonIndex
+{
+public:
+    void reserve(int records);
+    /// `record.number` is greater than every number before, or is a known one, which is replaced.
+    void put(const StoredRecord& record);
+    /// Numbers that are not known are ignored. The removed records' ids.
+    QStringList remove(const QVector<qint64>& numbers);
+    /// Gives all records of a person the fields of `info`, except id and organization.
+    void updatePerson(qint64 person, const PersonInfo& info);
+    void setOrganization(qint64 record, const QString& organizationId);
+    /// Changes the custom fields of every person, by person number.
+    void replaceCustomFields(const QHash<qint64, QMap<QString, QString>>& values);
+
+    int count() const { return m_infos.count(); }
+    qint64 lastRecord() const { return m_slots.isEmpty() ? 0 : m_slots.last().record; }
+    qint64 lastPerson() const { return m_members.isEmpty() ? 0 : m_members.last().first; }
+
+    QList<PersonInfo> all() const { return m_infos; }
+    QList<PersonInfo> inOrganizations(const QStringList& organizationIds) const;
+    bool anyIn(const QStringList& organizationIds) const;
+
+    const PersonInfo* record(qint64 number) const; ///< null when unknown, as for the next three
+    const PersonInfo* byId(const QString& id) const;
+    const PersonInfo* bySerialNum(const QString& serialNum) const;
+    const PersonInfo* byName(const QString& name) const;
+    qint64 recordNumber(const QString& id) const; ///< 0 when unknown
+    qint64 personOf(qint64 record) const;         ///< 0 when unknown
+    qint64 personWithSerialNum(const QString& serialNum) const { return m_bySerial.value(serialNum); }
+    QVector<qint64> recordsOf(qint64 person) const;
+    QVector<qint64> recordNumbers() const { return recordNumbersBetween(0, lastRecord()); }
+    QVector<qint64> recordNumbersBetween(qint64 first, qint64 last) const;
+
+    QSet<QString> serialNums() const;
+    QSet<QString> names() const;
+
+private:
+    struct Slot {
+        qint64 record;
+        qint64 person;
+        int organization; ///< place in m_organizations
+    };
+    struct Namesakes {
+        qint64 first; ///< record
+        int count;
+    };
+    using Member = QPair<qint64, qint64>; ///< person, record
+
+    static constexpr qint64 NoRecord = 0;
+
+    int position(qint64 record) const; ///< in m_slots and m_infos; -1 when unknown
+    int organizationPlace(const QString& organizationId);
+    QVector<bool> chosenPlaces(const QStringList& organizationIds, int* records) const;
+    void replace(int position, const StoredRecord& record);
+    void enter(const Slot& entry, const PersonInfo& info);
+    void enterName(const QString& name, qint64 record);
+    void leave(const Slot& entry, const PersonInfo& info);
+    void leaveName(const QString& name, qint64 record);
+    void leaveSerialNum(qint64 person, const QString& serialNum);
+    void findFirst(const QSet<QString>& names);
+    void dropMarked(const QVector<bool>& gone);
+
+    // Side by side, one element a record, sorted by its number.
+    QList<PersonInfo> m_infos;
+    QVector<Slot> m_slots;
+
+    QVector<Member> m_members; ///< sorted
+    QHash<QString, qint64> m_byId;
+    QHash<QString, qint64> m_bySerial; ///< person
+    QHash<QString, Namesakes> m_byName;
+    QHash<QString, int> m_organizationPlaces;
+    QVector<QString> m_organizations;
+    QVector<int> m_organizationCounts;
+};
+
+} // namespace qarn_data

@@ -1,0 +1,180 @@
+#include "Register.h"
+
+#include "Backup.h"
+#include "ChangeFeed.h"
+#include "Checkpointer.h"
+#include "Consistency.h"
+#include "SqlStore.h"
+#include "SqliteDialect.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QLoggingCategory>
+
+namespace qarn_data
+{
+
+namespace
+{
+
+Q_LOGGING_CATEGORY(logData, "qarn.data")
+
+const QString memoryLocation = QStringLiteral(":memory:");
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("qarn_data::Register", text);
+}
+
+std::unique_ptr<SqlStore> makeStore()
+{
+    return std::make_unique<SqlStore>(std::make_unique<SqliteDialect>());
+}
+
+void set(QString* target, const QString& text)
+{
+    if (target != nullptr)
+        *target = text;
+}
+
+} // namespace
+
+Register::Register() = default;
+Register::~Register() = default;
+
+Register& Register::instance()
+{
+    static Register theRegister;
+    return theRegister;
+}
+
+bool Register::isOpen() const
+{
+    const QReadLocker locker(&m_lock);
+    return !m_location.isEmpty();
+}
+
+bool Register::open(const QString& location, QString* error)
+{
+    close();
+    const QMutexLocker writing(&m_writing);
+    m_store = makeStore();
+    QString reason;
+    if (!m_store->open(location, &reason) || !load(&reason)) {
+        m_store.reset();
+        set(error, tr("The store %1 cannot be opened. %2").arg(QDir::toNativeSeparators(location), reason));
+        return false;
+    }
+    m_store->handOver();
+    if (location != memoryLocation)
+        m_checkpointer = std::make_unique<Checkpointer>(location);
+    const QWriteLocker locker(&m_lock);
+    m_location = location;
+    return true;
+}
+
+bool Register::load(QString* reason)
+{
+    RegisterState state;
+    const bool ok = m_store->beginRead() && state.load(*m_store);
+    if (!ok)
+        *reason = m_store->cause();
+    m_store->rollback();
+    if (!ok)
+        return false;
+    const QWriteLocker locker(&m_lock);
+    std::swap(m_state, state);
+    m_isBehind = false;
+    return true;
+}
+
+void Register::close()
+{
+    const QMutexLocker writing(&m_writing);
+    if (m_store == nullptr)
+        return;
+    m_checkpointer.reset();
+    m_store->takeOver();
+    m_store.reset();
+    RegisterState closed;
+    const QWriteLocker locker(&m_lock);
+    m_location.clear();
+    std::swap(m_state, closed);
+}
+
+bool Register::catchUp(Announcements* announcements)
+{
+    if (m_store->hasForeignChanges())
+        m_isBehind = true;
+    if (m_isBehind)
+        m_isBehind = !ChangeFeed(*m_store, m_state, m_lock).takeIn(announcements);
+    return !m_isBehind;
+}
+
+Announcements Register::takeForeignChanges()
+{
+    Announcements announcements;
+    if (!m_writing.tryLock())
+        return announcements;
+    if (m_store != nullptr) {
+        m_store->takeOver();
+        if (m_store->hasForeignChanges())
+            m_isBehind = true;
+        if (m_isBehind && m_store->beginRead()) {
+            if (!catchUp(&announcements))
+                qCWarning(logData) << "reading other processes' changes:" << m_store->cause();
+            m_store->rollback();
+        }
+        m_store->handOver();
+    }
+    m_writing.unlock();
+    return announcements;
+}
+
+// A file is copied through a connection of its own, so that the store stays in use meanwhile; a store in
+// memory has but one.
+bool Register::backup(const QString& filePath, QString* error)
+{
+    QString location;
+    {
+        const QReadLocker locker(&m_lock);
+        location = m_location;
+    }
+    QString reason;
+    if (location.isEmpty()) {
+        reason = tr("No store is open.");
+    } else if (location == memoryLocation) {
+        const QMutexLocker writing(&m_writing);
+        m_store->takeOver();
+        backupStore(*m_store, filePath, &reason);
+        m_store->handOver();
+    } else {
+        const std::unique_ptr<SqlStore> reader = makeStore();
+        if (QFileInfo(filePath).canonicalFilePath() == QFileInfo(location).canonicalFilePath())
+            reason = tr("It is the open store itself. Choose another file.");
+        else if (reader->open(location, &reason))
+            backupStore(*reader, filePath, &reason);
+    }
+    if (!reason.isEmpty())
+        set(error, tr("The backup %1 cannot be made. %2").arg(QDir::toNativeSeparators(filePath), reason));
+    return reason.isEmpty();
+}
+
+bool Register::checkConsistency(QString* problem)
+{
+    const QMutexLocker writing(&m_writing);
+    QString finding = tr("No store is open.");
+    if (m_store != nullptr) {
+        m_store->takeOver();
+        m_store->beginRead();
+        catchUp(nullptr);
+        finding = findInconsistency(*m_store, m_state);
+        m_store->rollback();
+        m_store->handOver();
+    }
+    set(problem, finding);
+    return finding.isEmpty();
+}
+
+} // namespace qarn_data
