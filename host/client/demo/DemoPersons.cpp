@@ -20,11 +20,10 @@ struct FirstName {
 };
 
 const std::array<FirstName, 28> firstNames{{
-    {"Anna", 2},  {"Bela", 1},   {"Chioma", 2},     {"David", 1},       {"Elif", 2},     {"Farid", 1},
-    {"Greta", 2}, {"Haruto", 1}, {"Ingrid", 2},     {"Jonas", 1},       {"Katarina", 2}, {"Luis", 1},
-    {"Mei", 2},   {"Nadim", 1},  {"Olivia", 2},     {"Pavel", 1},       {"Quynh", 2},    {"Rasmus", 1},
-    {"Sofia", 2}, {"Tariq", 1},  {"Uma", 2},        {"Viktor", 1},      {"Wanjiru", 2},  {"Xavier", 1},
-    {"Yara", 2},  {"Zoltan", 1}, {"\xC3\x85sa", 2}, {"\xC3\x96mer", 1},
+    {"Anna", 2},   {"Bela", 1},    {"Chioma", 2}, {"David", 1},    {"Elif", 2},   {"Farid", 1}, {"Greta", 2},
+    {"Haruto", 1}, {"Ingrid", 2},  {"Jonas", 1},  {"Katarina", 2}, {"Luis", 1},   {"Mei", 2},   {"Nadim", 1},
+    {"Olivia", 2}, {"Pavel", 1},   {"Quynh", 2},  {"Rasmus", 1},   {"Sofia", 2},  {"Tariq", 1}, {"Uma", 2},
+    {"Viktor", 1}, {"Wanjiru", 2}, {"Xavier", 1}, {"Yara", 2},     {"Zoltan", 1}, {"Åsa", 2},   {"Ömer", 1},
 }};
 const std::array<const char*, 26> lastNames{{"Andersson",
                                              "Bauer",
@@ -32,13 +31,13 @@ const std::array<const char*, 26> lastNames{{"Andersson",
                                              "Dubois",
                                              "Eriksen",
                                              "Ferrari",
-                                             "Garc\xC3\xADa",
-                                             "Horv\xC3\xA1th",
+                                             "García",
+                                             "Horváth",
                                              "Ito",
                                              "Jansen",
                                              "Kowalski",
                                              "Lindgren",
-                                             "M\xC3\xBCller",
+                                             "Müller",
                                              "Nguyen",
                                              "Okafor",
                                              "Petrov",
@@ -51,25 +50,20 @@ const std::array<const char*, 26> lastNames{{"Andersson",
                                              "Weber",
                                              "Yilmaz",
                                              "Zhang",
-                                             "O\xE2\x80\x99"
+                                             "O’"
                                              "Brien"}};
 const std::array<const char*, 8> otherScripts{
-    {"\xE7\x8E\x8B\xE5\xB0\x8F\xE6\x98\x8E", "\xE6\x9D\x8E\xE5\xA8\x9C",
-     "\xD0\x98\xD0\xB2\xD0\xB0\xD0\xBD \xD0\xA1\xD0\xBE\xD0\xBA\xD0\xBE\xD0\xBB\xD0\xBE\xD0\xB2",
-     "\xCE\x95\xCE\xBB\xCE\xAD\xCE\xBD\xCE\xB7 \xCE\x91\xCE\xBB\xCE\xB5\xCE\xBE\xCE\xAF\xCE\xBF\xCF\x85",
-     "\xE4\xBD\x90\xE8\x97\xA4 \xE6\xA1\x9C", "\xEA\xB9\x80\xEB\xAF\xBC\xEC\xA4\x80",
-     "\xD9\x84\xD9\x8A\xD9\x84\xD9\x89 \xD8\xAD\xD8\xB3\xD9\x86",
-     "\xE0\xA4\x85\xE0\xA4\xA8\xE0\xA4\xBF\xE0\xA4\xA4\xE0\xA4\xBE \xE0\xA4\xB0\xE0\xA4\xBE\xE0\xA4\xB5"}};
+    {"王小明", "李娜", "Иван Соколов", "Ελένη Αλεξίου", "佐藤 桜", "김민준", "ليلى حسن", "अनिता राव"}};
 constexpr int everyOtherScript = 16; // each so-manieth person has a name in another script
 constexpr QSize portraitSize(300, 400);
 constexpr int portraitQuality = 82;
 
-QByteArray portraitBytes(quint32 seed)
+QByteArray portraitBytes(quint32 seed, PortraitKind kind)
 {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    drawPortrait(seed, portraitSize).save(&buffer, "jpg", portraitQuality);
+    drawPortrait(seed, portraitSize, kind).save(&buffer, "jpg", portraitQuality);
     return bytes;
 }
 
@@ -117,7 +111,8 @@ PersonInfo make(int index)
     const bool expired = random() % 9U == 0U;
     person.validStartTime = person.validStartTime.addDays(-static_cast<qint64>(random() % 300U) - 40);
     person.validEndTime = expired ? person.validStartTime.addDays(30) : person.validEndTime.addYears(1);
-    person.faceImage1 = portraitBytes(static_cast<quint32>(index) + 1U);
+    person.faceImage1 = portraitBytes(static_cast<quint32>(index) + 1U,
+                                      first.sex == 1 ? PortraitKind::Male : PortraitKind::Female);
     return person;
 }
 

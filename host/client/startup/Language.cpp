@@ -10,7 +10,7 @@ QList<Language> availableLanguages()
     return {
         {QString(), QCoreApplication::translate("Language", "Language of the system")},
         {QStringLiteral("en"), QStringLiteral("English")},
-        {QStringLiteral("zh_CN"), QString::fromUtf8("\xE7\xAE\x80\xE4\xBD\x93\xE4\xB8\xAD\xE6\x96\x87")},
+        {QStringLiteral("zh_CN"), QString::fromUtf8("简体中文")},
         {QStringLiteral("de"), QStringLiteral("Deutsch")},
     };
 }
