@@ -25,33 +25,10 @@ const std::array<FirstName, 28> firstNames{{
     {"Olivia", 2}, {"Pavel", 1},   {"Quynh", 2},  {"Rasmus", 1},   {"Sofia", 2},  {"Tariq", 1}, {"Uma", 2},
     {"Viktor", 1}, {"Wanjiru", 2}, {"Xavier", 1}, {"Yara", 2},     {"Zoltan", 1}, {"Åsa", 2},   {"Ömer", 1},
 }};
-const std::array<const char*, 26> lastNames{{"Andersson",
-                                             "Bauer",
-                                             "Costa",
-                                             "Dubois",
-                                             "Eriksen",
-                                             "Ferrari",
-                                             "García",
-                                             "Horváth",
-                                             "Ito",
-                                             "Jansen",
-                                             "Kowalski",
-                                             "Lindgren",
-                                             "Müller",
-                                             "Nguyen",
-                                             "Okafor",
-                                             "Petrov",
-                                             "Quispe",
-                                             "Rossi",
-                                             "Sato",
-                                             "Tanaka",
-                                             "Ude",
-                                             "Varga",
-                                             "Weber",
-                                             "Yilmaz",
-                                             "Zhang",
-                                             "O’"
-                                             "Brien"}};
+const std::array<const char*, 26> lastNames{
+    {"Andersson", "Bauer",    "Costa",    "Dubois", "Eriksen", "Ferrari", "García", "Horváth", "Ito",
+     "Jansen",    "Kowalski", "Lindgren", "Müller", "Nguyen",  "Okafor",  "Petrov", "Quispe",  "Rossi",
+     "Sato",      "Tanaka",   "Ude",      "Varga",  "Weber",   "Yilmaz",  "Zhang",  "O’Brien"}};
 const std::array<const char*, 8> otherScripts{
     {"王小明", "李娜", "Иван Соколов", "Ελένη Αλεξίου", "佐藤 桜", "김민준", "ليلى حسن", "अनिता राव"}};
 constexpr int everyOtherScript = 16; // each so-manieth person has a name in another script
