@@ -94,8 +94,9 @@ void tst_StoreOpener::takesAnotherFile()
     ModalDriver driver;
     driver.expect([](QWidget* dialog) { press(dialog, "otherFileBt"); });
     driver.expect([other](QWidget* dialog) {
-        dialog->findChild<QLineEdit*>("fileNameEdit")->setText(other);
-        QTest::keyClick(dialog, Qt::Key_Return);
+        auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
+        name->setText(other);
+        QTest::keyClick(name, Qt::Key_Return);
     });
     QCOMPARE(StoreOpener::open(damagedFile(), true), other);
     QCOMPARE(driver.pending(), 0);

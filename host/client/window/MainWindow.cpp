@@ -16,6 +16,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QListWidget>
+#include <QScrollArea>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -39,7 +40,8 @@ MainWindow::MainWindow(ClientSettings& settings) : m_settings(settings)
     buildWindow();
     auto& module = qarn_personMgr::PersonMgrInit::instance();
     module.moduleInit();
-    addPage(tr("Persons"), QStringLiteral("persons"), module.createPersonMgrForm());
+    m_personsPage = module.createPersonMgrForm();
+    addPage(tr("Persons"), QStringLiteral("persons"), m_personsPage);
 
     m_quitGuard = new QuitGuard(this);
     connect(m_quitGuard, &QuitGuard::signalMayQuit, this, &QWidget::close);
@@ -84,15 +86,15 @@ void MainWindow::buildWindow()
 
 void MainWindow::addPage(const QString& title, const QString& icon, QWidget* page)
 {
-    m_pages->addWidget(page);
+    // A page keeps the size that it needs; on a small screen the operator scrolls.
+    auto* area = new QScrollArea(m_pages);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(page);
+    m_pages->addWidget(area);
     auto* item =
         new QListWidgetItem(QIcon(QStringLiteral(":/images/images/%1.png").arg(icon)), title, m_pageList);
     item->setToolTip(title);
-}
-
-QWidget* MainWindow::personsPage() const
-{
-    return m_pages->widget(0);
 }
 
 void MainWindow::setStoreName(const QString& name)
@@ -107,6 +109,7 @@ void MainWindow::restore()
     m_splitter->restoreState(m_settings.splitterState());
     m_pageList->setCurrentRow(qBound(0, m_settings.currentPage(), m_pages->count() - 1));
     applyPageSize(m_settings.pageSize());
+    m_pageList->setFocus();
 }
 
 void MainWindow::applyPageSize(int size)

@@ -20,7 +20,7 @@ public:
     ~MainWindow() override;
 
     void setStoreName(const QString& name); ///< shown in the title
-    QWidget* personsPage() const;
+    QWidget* personsPage() const { return m_personsPage; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -40,6 +40,7 @@ private:
     QSplitter* m_splitter = nullptr;
     QListWidget* m_pageList = nullptr;
     QStackedWidget* m_pages = nullptr;
+    QWidget* m_personsPage = nullptr;
     QuitGuard* m_quitGuard = nullptr;
     int m_unreadAlerts = 0;
 };
