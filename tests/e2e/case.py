@@ -7,12 +7,11 @@ import sqlite3
 import tempfile
 import unittest
 
-from driver import Client, Desktop
+from driver import SCREENSHOTS, Client, Desktop
 
 CLIENT = pathlib.Path(os.environ["QARN_CLIENT"])
 SIMULATOR = pathlib.Path(os.environ["QARN_SIMULATOR"])
 PLUGINS = pathlib.Path(os.environ["QARN_PROBE_PLUGINS"])
-SCREENSHOTS = pathlib.Path(os.environ.get("QARN_SCREENSHOTS", "screenshots"))
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 PORTRAITS = sorted((ROOT / "samples" / "portraits").glob("*.jpg"))
 

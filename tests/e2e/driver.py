@@ -10,6 +10,7 @@ import subprocess
 import tempfile
 import time
 
+SCREENSHOTS = pathlib.Path(os.environ.get("QARN_SCREENSHOTS", "screenshots"))
 PATIENCE = 20.0  # seconds until something that should happen must have happened
 
 
@@ -96,7 +97,8 @@ class Client:
             if result:
                 return result
             if time.monotonic() > deadline:
-                raise AssertionError(f"waited {PATIENCE:.0f} s for: {what}")
+                self.screenshot(SCREENSHOTS / "failed.png")
+                raise AssertionError(f"waited {PATIENCE:.0f} s for: {what}; see {SCREENSHOTS}/failed.png")
             time.sleep(0.03)
 
     def widget(self, name, **wanted):
@@ -159,7 +161,7 @@ class Client:
     # ---- the end
 
     def quit(self):
-        self.click("closeBt", window="mainWindow")
+        self.click("closeBt", window="MainWindow")
         code = self.process.wait(PATIENCE)
         assert code == 0, f"the client ended with {code}"
 

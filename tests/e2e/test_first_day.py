@@ -13,14 +13,14 @@ class FirstDay(EndToEnd):
         client.click_item("treeWidget", parent)
         client.click("addOrganizationBt")
         for number, name in enumerate(names):
-            client.fill("name", name, window="ItemModifyDlg")
+            client.fill("name", name, window="qarn_base::ItemModifyDlg")
             client.click("okBt" if number == len(names) - 1 else "addContinuouslyBt")
             client.until(lambda: name in [i["text"] for i in client.items("treeWidget")], f"{name} in the tree")
 
     def add_person(self, client, number, name, last):
-        client.fill("name", name, window="qarn_personMgr__PersonInfoModifyDlg")
+        client.fill("name", name, window="qarn_personMgr::PersonInfoModifyDlg")
         client.fill("serailNum", f"a{number:03}")
-        client.click_at(client.widget("faceImage", window="qarn_personMgr__PersonInfoModifyDlg"))
+        client.click_at(client.widget("faceImage", window="qarn_personMgr::PersonInfoModifyDlg"))
         client.choose_file(PORTRAITS[number % len(PORTRAITS)])
         client.click("addBt" if last else "addContinuouslyBt")
 
@@ -45,7 +45,7 @@ class FirstDay(EndToEnd):
         self.picture(client, "first-day-ten-persons")
 
         client.click("searchLineEt")
-        client.fill("name", "a", window="mainWindow")
+        client.fill("name", "a", window="MainWindow")
         client.click("searchBt")
         client.until(lambda: client.rows() == ["A000", "A001", "A002", "A003", "A006", "A008"], "the names with an a")
         client.click("resetBt")
@@ -58,7 +58,7 @@ class FirstDay(EndToEnd):
         for box in boxes[:2]:
             client.click_at(box, (8, box["height"] / 2))
         client.click("movePersonsBt")
-        tree = client.widget("treeWidget", window="qarn_personMgr__ChangePersonsOrganizationDlg")
+        tree = client.widget("treeWidget", window="qarn_personMgr::ChangePersonsOrganizationDlg")
         office = next(i for i in client.items("treeWidget") if i["text"] == "Office" and i["x"] > tree["x"]
                       and i["x"] < tree["x"] + tree["width"])
         client.click_at(office)

@@ -40,7 +40,7 @@ QJsonObject describe(const QWidget& widget)
     report[QStringLiteral("checked")] = widget.property("checkState").isValid()
                                             ? widget.property("checkState").toInt()
                                             : widget.property("checked").toInt();
-    report[QStringLiteral("window")] = widget.window()->objectName();
+    report[QStringLiteral("window")] = QString::fromLatin1(widget.window()->metaObject()->className());
     // What part of it is not scrolled away or covered by an edge.
     report[QStringLiteral("seen")] = !widget.visibleRegion().isEmpty();
     return report;
