@@ -11,7 +11,7 @@ import tempfile
 import time
 
 SCREENSHOTS = pathlib.Path(os.environ.get("QARN_SCREENSHOTS", "screenshots"))
-PATIENCE = 20.0  # seconds until something that should happen must have happened
+PATIENCE = 6.0  # seconds until something that should happen must have happened
 
 
 class Desktop:
@@ -72,14 +72,28 @@ class Client:
         self.connection.flush()
         return json.loads(self.connection.readline())
 
+    def _on_screen(self, areas):
+        """Adds the places of their windows, which only the X server knows for sure."""
+        origins = {}
+        for area in areas:
+            window = area["windowId"]
+            if window not in origins:
+                output = subprocess.run(["xdotool", "getwindowgeometry", "--shell", str(window)],
+                                        env=self.desktop.environment, capture_output=True, text=True).stdout
+                values = dict(line.split("=", 1) for line in output.splitlines() if "=" in line)
+                origins[window] = (int(values.get("X", 0)), int(values.get("Y", 0)))
+            area["x"] += origins[window][0]
+            area["y"] += origins[window][1]
+        return areas
+
     def widgets(self, name):
-        return [w for w in self.ask(command="widgets", name=name)["widgets"] if w["seen"]]
+        return self._on_screen([w for w in self.ask(command="widgets", name=name)["widgets"] if w["seen"]])
 
     def windows(self):
-        return self.ask(command="windows")["windows"]
+        return self._on_screen(self.ask(command="windows")["windows"])
 
     def items(self, view):
-        return self.ask(command="items", name=view)["items"]
+        return self._on_screen(self.ask(command="items", name=view)["items"])
 
     def texts(self, name):
         return [w["text"] for w in self.widgets(name)]
@@ -87,7 +101,7 @@ class Client:
     def rows(self):
         """Serial numbers of the persons on the page, also of rows that are scrolled away."""
         return [w["text"] for w in sorted(self.ask(command="widgets", name="serialNum")["widgets"], key=lambda w: w["y"])
-                if w["class"] == "QLabel"]
+                if "LineEdit" not in w["class"]]
 
     def until(self, condition, what):
         """Waits until condition() gives something true, and returns it."""
@@ -101,18 +115,33 @@ class Client:
                 raise AssertionError(f"waited {PATIENCE:.0f} s for: {what}; see {SCREENSHOTS}/failed.png")
             time.sleep(0.03)
 
-    def widget(self, name, **wanted):
-        """The one visible widget with this name (and these properties), as soon as there is one."""
+    def _resting(self, find, what):
+        """What find() gives as soon as it stays where it is: a window manager moves new windows."""
+        last = None
+
+        def resting():
+            nonlocal last
+            before, last = last, find()
+            if last is None or last != before:
+                time.sleep(0.06)
+                return None
+            return last
+        return self.until(resting, what)
+
+    def widget(self, name, kind="", **wanted):
+        """The one visible widget with this name, kind (end of its class) and these properties, as soon as
+        there is one."""
         def one():
-            found = [w for w in self.widgets(name) if all(w[key] == value for key, value in wanted.items())]
+            found = [w for w in self.widgets(name) if all(w[key] == value for key, value in wanted.items())
+                     and w["class"].endswith(kind)]
             return found[0] if len(found) == 1 else None
-        return self.until(one, f"widget {name} {wanted or ''}")
+        return self._resting(one, f"{kind or 'widget'} {name} {wanted or ''}")
 
     def item(self, view, text):
         def one():
             found = [i for i in self.items(view) if i["text"] == text]
             return found[0] if found else None
-        return self.until(one, f"item {text!r} in {view}")
+        return self._resting(one, f"item {text!r} in {view}")
 
     # ---- actions
 
@@ -143,7 +172,7 @@ class Client:
             self.key("ctrl+v")
 
     def fill(self, name, text, **wanted):
-        self.click(name, **wanted)
+        self.click_at(self.widget(name, kind="Edit", **wanted))
         self.key("ctrl+a")
         self.write(text)
         self.until(lambda: text in self.texts(name), f"{name} shows {text!r}")

@@ -27,7 +27,7 @@ namespace
 {
 
 constexpr int frameMargin = 1;
-constexpr int pageListWidth = 150;
+constexpr int pageListWidth = 96;
 constexpr QSize firstSize(1280, 760);
 
 } // namespace

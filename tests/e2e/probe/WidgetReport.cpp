@@ -12,8 +12,9 @@ namespace
 QJsonObject rectangle(const QWidget& widget, const QRect& local)
 {
     const qreal ratio = widget.devicePixelRatioF();
-    const QPoint corner = widget.mapToGlobal(local.topLeft());
-    return {{QStringLiteral("x"), corner.x() * ratio},
+    const QPoint corner = widget.mapTo(widget.window(), local.topLeft());
+    return {{QStringLiteral("windowId"), static_cast<qint64>(widget.window()->internalWinId())},
+            {QStringLiteral("x"), corner.x() * ratio},
             {QStringLiteral("y"), corner.y() * ratio},
             {QStringLiteral("width"), local.width() * ratio},
             {QStringLiteral("height"), local.height() * ratio}};

@@ -3,7 +3,7 @@
 #include <QJsonArray>
 #include <QString>
 
-/// What a person would see, as JSON. Rectangles are in pixels of the X screen.
+/// What a person would see, as JSON. Rectangles are in pixels of the X window "windowId".
 QJsonArray reportWindows();
 /// All widgets with this object name that are visible.
 QJsonArray reportWidgets(const QString& name);
