@@ -147,7 +147,7 @@ void HttpConnection::slotReadyRead()
             return fail(BadAnswer);
     }
     if (m_parser->isDone())
-        finish({0, m_parser->status(), m_parser->body(), false, {}, {}});
+        succeed();
 }
 
 void HttpConnection::slotError()
@@ -169,8 +169,16 @@ void HttpConnection::slotError()
         return;
     m_parser->finish();
     if (m_parser->isDone())
-        return finish({0, m_parser->status(), m_parser->body(), false, {}, {}});
+        return succeed();
     fail(ConnectionLost);
+}
+
+void HttpConnection::succeed()
+{
+    HttpResult result;
+    result.status = m_parser->status();
+    result.body = m_parser->body();
+    finish(result);
 }
 
 void HttpConnection::fail(int code)

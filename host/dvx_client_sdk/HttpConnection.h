@@ -43,6 +43,7 @@ private:
     void slotReadyRead();
     void slotError();
     void finish(const HttpResult& result);
+    void succeed();
     void fail(int code);
     void close();
     bool isPinned() const;
