@@ -1,7 +1,6 @@
 #include "editor/CustomFieldsModifyDlg.h"
 
 #include "editor/CustomFieldRules.h"
-#include "editor/FieldNameDelegate.h"
 #include "ui_CustomFieldsModifyDlg.h"
 
 #include <qarn_base/EditOperWt.h>
@@ -13,6 +12,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QSet>
+#include <QShortcut>
 #include <QUuid>
 
 using qarn_base::EditOperWt;
@@ -35,8 +35,7 @@ void warn(const QString& text)
 
 CustomFieldsModifyDlg::CustomFieldsModifyDlg(QWidget* parent)
     : CommonDialog(parent),
-      m_ui(std::make_unique<Ui::CustomFieldsModifyDlg>()),
-      m_nameDelegate(new FieldNameDelegate(this))
+      m_ui(std::make_unique<Ui::CustomFieldsModifyDlg>())
 {
     m_ui->setupUi(this);
     setTitle(tr("Custom Fields Set"));
@@ -54,8 +53,8 @@ void CustomFieldsModifyDlg::setUpTable()
     const QString icon = QStringLiteral(":/images/images/add_iconBt_n.png");
     m_ui->addFieldBt->setIcons(icon, icon);
 
-    m_ui->tableWidget->setItemDelegateForColumn(NameColumn, m_nameDelegate);
-    m_ui->tableWidget->setEditTriggers(QAbstractItemView::EditKeyPressed);
+    // Every way to edit leads through editName(), which sees to the check of the name.
+    m_ui->tableWidget->setEditTriggers(QAbstractItemView::NoEditTriggers);
     QHeaderView* header = m_ui->tableWidget->horizontalHeader();
     header->setSectionResizeMode(NameColumn, QHeaderView::Fixed);
     header->resizeSection(NameColumn, NameColumnWidth);
@@ -71,8 +70,9 @@ void CustomFieldsModifyDlg::makeConnections()
         if (column == NameColumn)
             editName(m_ui->tableWidget->item(row, NameColumn)->data(RowIdRole).toString());
     });
-    connect(m_nameDelegate, &FieldNameDelegate::signalEditorOpened, &m_editorWatch,
-            [this](QLineEdit* editor, const QModelIndex& index) { nameEditorOpened(editor, index); });
+    auto* renameKey = new QShortcut(QKeySequence(Qt::Key_F2), m_ui->tableWidget);
+    renameKey->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(renameKey, &QShortcut::activated, this, &CustomFieldsModifyDlg::editCurrentName);
 }
 
 void CustomFieldsModifyDlg::appendRow(const QString& name)
@@ -112,11 +112,20 @@ void CustomFieldsModifyDlg::addField()
 void CustomFieldsModifyDlg::editName(const QString& rowId)
 {
     QTableWidgetItem* item = nameItem(rowId);
-    if (item == nullptr || (m_nameEditor != nullptr && m_editedRowId == rowId))
+    if (item == nullptr || openEditor(item) != nullptr)
         return;
     settleNameEdit();
     m_ui->tableWidget->setCurrentItem(item);
     m_ui->tableWidget->editItem(item);
+    if (QLineEdit* editor = openEditor(item))
+        watchNameEditor(editor, rowId);
+}
+
+void CustomFieldsModifyDlg::editCurrentName()
+{
+    const int row = m_ui->tableWidget->currentRow();
+    if (row >= 0)
+        editName(m_ui->tableWidget->item(row, NameColumn)->data(RowIdRole).toString());
 }
 
 void CustomFieldsModifyDlg::deleteField(const QString& rowId)
@@ -137,9 +146,9 @@ void CustomFieldsModifyDlg::save()
     accept();
 }
 
-void CustomFieldsModifyDlg::nameEditorOpened(QLineEdit* editor, const QModelIndex& index)
+void CustomFieldsModifyDlg::watchNameEditor(QLineEdit* editor, const QString& rowId)
 {
-    const QString rowId = index.data(RowIdRole).toString();
+    editor->setMaxLength(CustomFieldNameMaxLength);
     m_nameEditor = editor;
     m_editedRowId = rowId;
     // Rows that light up under the mouse would disturb the editor.
@@ -154,11 +163,14 @@ void CustomFieldsModifyDlg::settleNameEdit()
 {
     if (m_nameEditor == nullptr)
         return;
-    // An editor that the table has closed lives until control returns to the event loop; it has nothing to
+    // An editor that the table has closed lives until control returns to the event loop, with nothing to
     // hand over any more.
     const QTableWidgetItem* item = nameItem(m_editedRowId);
-    if (item != nullptr && m_ui->tableWidget->cellWidget(item->row(), NameColumn) == m_nameEditor)
-        m_nameDelegate->finishEditing(m_nameEditor);
+    if (item != nullptr && openEditor(item) == m_nameEditor) {
+        QAbstractItemDelegate* delegate = m_ui->tableWidget->itemDelegate();
+        emit delegate->commitData(m_nameEditor);
+        emit delegate->closeEditor(m_nameEditor);
+    }
     m_nameEditor.clear();
     checkName(m_editedRowId);
 }
@@ -181,6 +193,11 @@ void CustomFieldsModifyDlg::checkName(const QString& rowId)
         item->setToolTip(item->text());
         break;
     }
+}
+
+QLineEdit* CustomFieldsModifyDlg::openEditor(const QTableWidgetItem* item) const
+{
+    return qobject_cast<QLineEdit*>(m_ui->tableWidget->cellWidget(item->row(), NameColumn));
 }
 
 QTableWidgetItem* CustomFieldsModifyDlg::nameItem(const QString& rowId) const

@@ -8,13 +8,10 @@
 #include <memory>
 
 class QLineEdit;
-class QModelIndex;
 class QTableWidgetItem;
 
 namespace qarn_personMgr
 {
-
-class FieldNameDelegate;
 
 namespace Ui
 {
@@ -40,20 +37,22 @@ private:
 
     void addField();
     void editName(const QString& rowId);
+    void editCurrentName();
     void deleteField(const QString& rowId);
     void save();
 
-    void nameEditorOpened(QLineEdit* editor, const QModelIndex& index);
+    void watchNameEditor(QLineEdit* editor, const QString& rowId);
     /// Ends a running edit and checks its name now instead of when the editor has gone.
     void settleNameEdit();
     void checkName(const QString& rowId);
 
-    QTableWidgetItem* nameItem(const QString& rowId) const; ///< null when the row is gone
+    QLineEdit* openEditor(const QTableWidgetItem* item) const; ///< null when the name is not being edited
+    QTableWidgetItem* nameItem(const QString& rowId) const;    ///< null when the row is gone
     QStringList names(const QTableWidgetItem* except = nullptr) const;
 
     std::unique_ptr<Ui::CustomFieldsModifyDlg> m_ui;
-    FieldNameDelegate* m_nameDelegate; ///< owned by this dialog
-    QPointer<QLineEdit> m_nameEditor;
+    QPointer<QLineEdit>
+        m_nameEditor; ///< null when no name is edited, or the table has closed it and it is gone
     QString m_editedRowId;
     /// Receiver of what the line editors report. It goes with the members, before the child widgets: an
     /// editor that dies with the dialog is not answered by a half destroyed one.

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QStyle>
+#include <QTextDocument>
 
 namespace qarn_personMgr
 {
@@ -9,7 +10,7 @@ namespace qarn_personMgr
 ElidedLabel::ElidedLabel(const QString& text, QWidget* parent) : QLabel(text, parent)
 {
     setTextFormat(Qt::PlainText); // an operator's text is no mark-up
-    setToolTip(text.toHtmlEscaped());
+    setToolTip(Qt::mightBeRichText(text) ? text.toHtmlEscaped().prepend(QLatin1String("<span>")) : text);
 }
 
 QSize ElidedLabel::minimumSizeHint() const
