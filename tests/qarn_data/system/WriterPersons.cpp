@@ -33,7 +33,7 @@ PersonList personsToAdd(const QJsonObject& command)
         person.serialNum = QStringLiteral("SERIAL-") + id;
         person.name = QStringLiteral("Name of ") + id;
         person.organizationId = command["organizationId"].toString();
-        person.faceImage1 = QByteArray(command["imageSize"].toInt(), 'i');
+        person.faceImage1 = id.toUtf8().leftJustified(command["imageSize"].toInt(), 'i', true);
         persons.append(person);
     }
     return persons;

@@ -269,7 +269,7 @@ void tst_StoreRefusals::lockedWhileOpening()
     const QJsonObject opened = open();
     QCOMPARE(opened["answer"].toBool(true), false);
     const QString text = opened["error"].toString();
-    QVERIFY2(text.contains(m_folder->storePath()) && text.contains(QRegularExpression("lock|use")),
+    QVERIFY2(text.contains(m_folder->storePath()) && text.contains(QRegularExpression("lock|use|using")),
              qPrintable(text));
     QVERIFY(locker.does({{"do", "unlock"}}));
     QVERIFY(open()["answer"].toBool());
