@@ -120,7 +120,7 @@ bool PersonInfoModifyWt::checkInput()
 PersonInfo& PersonInfoModifyWt::getPersonInfo()
 {
     m_personInfo.name = m_ui->name->text().trimmed();
-    m_personInfo.serialNum = normalizedSerialNum(m_ui->serailNum->text());
+    m_personInfo.serialNum = storedSerialNum(m_ui->serailNum->text());
     m_personInfo.sex = m_ui->sex->currentIndex() == MaleIndex ? Male : Female;
     m_personInfo.email = m_ui->email->text().trimmed();
     m_personInfo.phoneNum = m_ui->phoneNum->text().trimmed();

@@ -3,7 +3,7 @@
 namespace qarn_personMgr
 {
 
-QString normalizedSerialNum(const QString& text)
+QString storedSerialNum(const QString& text)
 {
     return text.toUpper().trimmed();
 }
@@ -13,7 +13,7 @@ PersonInputError checkPersonInput(const QString& name, const QString& serialNum,
 {
     if (name.trimmed().isEmpty())
         return PersonInputError::BlankName;
-    const QString normalized = normalizedSerialNum(serialNum);
+    const QString normalized = storedSerialNum(serialNum);
     if (normalized.isEmpty())
         return PersonInputError::BlankSerialNum;
     if (newPerson && serialNumExists(normalized))

@@ -11,7 +11,7 @@ namespace qarn_personMgr
 enum class PersonInputError { None, BlankName, BlankSerialNum, SerialNumExists };
 
 /// The serial number as it is stored: upper-cased, then trimmed.
-QString normalizedSerialNum(const QString& text);
+QString storedSerialNum(const QString& text);
 
 /// The first thing that is wrong with an input, names before serial numbers. Only a new person's serial
 /// number must not exist; `serialNumExists` is asked with the normalized number.

@@ -36,7 +36,7 @@ void tst_PersonInputRules::normalizesSerialNumbers_data()
 void tst_PersonInputRules::normalizesSerialNumbers()
 {
     QFETCH(QString, typed);
-    QTEST(normalizedSerialNum(typed), "stored");
+    QTEST(storedSerialNum(typed), "stored");
 }
 
 void tst_PersonInputRules::checksInput_data()
