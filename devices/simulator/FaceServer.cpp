@@ -72,12 +72,6 @@ void FaceServer::serve()
     m_server->listen_after_bind();
 }
 
-void FaceServer::stop()
-{
-    m_stopping = true;
-    m_server->stop();
-}
-
 void FaceServer::addRoutes()
 {
     const Method get = &httplib::Server::Get;
@@ -118,7 +112,7 @@ void FaceServer::route(Method method, const std::string& path, Operation operati
         }
         const FaultRule rule = m_faults.next(operation, number);
         if (replacesAnswer(rule.fault))
-            actFault(rule, request, response, m_stopping);
+            actFault(rule, request, response);
         else
             (m_handlers.*handler)({number, *channel->second, rule.fault, request, response});
     };

@@ -7,7 +7,6 @@
 
 #include <httplib.h>
 
-#include <atomic>
 #include <memory>
 #include <string>
 
@@ -23,8 +22,7 @@ public:
     /// Loads the faces and starts to listen; false with `error` when that is not possible.
     bool start(std::string& error);
     std::string address() const; ///< "http://127.0.0.1:PORT"
-    void serve();                ///< until stop()
-    void stop();                 ///< any thread
+    void serve();                ///< for ever
 
 private:
     using Method = httplib::Server& (httplib::Server::*)(const std::string&, httplib::Server::Handler);
@@ -40,7 +38,6 @@ private:
     Channels m_channels;
     Journal m_journal;
     FaceHandlers m_handlers;
-    std::atomic<bool> m_stopping{false};
     int m_port = 0;
     std::unique_ptr<httplib::Server> m_server;
 };

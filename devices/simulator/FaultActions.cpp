@@ -17,7 +17,7 @@ namespace
 {
 
 constexpr std::size_t HugeBytes = std::size_t(4) << 30;
-constexpr int LookMs = 20;
+constexpr int DripMs = 20;
 
 /// The HTTP library does not hand out the socket of a request; the peer's port tells which one it is.
 int socketOf(const httplib::Request& request)
@@ -41,11 +41,10 @@ int socketOf(const httplib::Request& request)
     return -1;
 }
 
-void hang(const httplib::Request& request, const std::atomic<bool>& stopping)
+void hang(const httplib::Request& request)
 {
     pollfd watched{socketOf(request), POLLRDHUP, 0};
-    while (!stopping && poll(&watched, 1, LookMs) == 0) {
-    }
+    poll(&watched, 1, -1);
     shutdown(watched.fd, SHUT_RDWR);
 }
 
@@ -60,13 +59,13 @@ void answerPartly(httplib::Response& response, std::size_t length, std::size_t s
         });
 }
 
-void drip(httplib::Response& response, const std::atomic<bool>& stopping)
+void drip(httplib::Response& response)
 {
     response.status = 200;
     response.set_content_provider(HugeBytes, ScimMediaType,
-                                  [&stopping](std::size_t, std::size_t, httplib::DataSink& sink) {
-                                      std::this_thread::sleep_for(std::chrono::milliseconds(LookMs));
-                                      return !stopping && sink.write(" ", 1);
+                                  [](std::size_t, std::size_t, httplib::DataSink& sink) {
+                                      std::this_thread::sleep_for(std::chrono::milliseconds(DripMs));
+                                      return sink.write(" ", 1);
                                   });
 }
 
@@ -88,14 +87,13 @@ bool replacesAnswer(Fault fault)
     return fault != Fault::None && fault != Fault::Total && fault != Fault::Empty;
 }
 
-void actFault(const FaultRule& rule, const httplib::Request& request, httplib::Response& response,
-              const std::atomic<bool>& stopping)
+void actFault(const FaultRule& rule, const httplib::Request& request, httplib::Response& response)
 {
     switch (rule.fault) {
     case Fault::Status:
         return refuse(rule.status, response);
     case Fault::Hang:
-        return hang(request, stopping);
+        return hang(request);
     case Fault::Drop:
         shutdown(socketOf(request), SHUT_RDWR);
         return;
@@ -107,7 +105,7 @@ void actFault(const FaultRule& rule, const httplib::Request& request, httplib::R
     case Fault::Huge:
         return answerPartly(response, HugeBytes, HugeBytes);
     case Fault::Drip:
-        return drip(response, stopping);
+        return drip(response);
     case Fault::None:
     case Fault::Total:
     case Fault::Empty:

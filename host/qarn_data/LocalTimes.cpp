@@ -1,17 +1,84 @@
 #include "LocalTimes.h"
 
+#include <cstring>
+
 namespace qarn_data
 {
 
+namespace
+{
+
+constexpr qint64 dayMs = 24 * 60 * 60 * 1000;
+constexpr int mostDays = 50000; ///< that are remembered
+
+// A local QDateTime of the years that matter is one word: flags in the low byte, local milliseconds above.
+// Qt has no function that makes one without asking the time zone rules. This relies on the layout only where
+// Qt itself has shown it: shift() is used between two moments that Qt made and that differ by just the shift.
+static_assert(sizeof(QDateTime) == sizeof(quint64), "a QDateTime is expected to be one word");
+
+quint64 wordOf(const QDateTime& time)
+{
+    quint64 word = 0;
+    std::memcpy(&word, static_cast<const void*>(&time), sizeof word);
+    return word;
+}
+
+constexpr quint64 isInline = 1; ///< the flag of a word that is not a pointer
+
+quint64 shifted(quint64 word, qint64 msecs)
+{
+    return word + (quint64(msecs) << 8);
+}
+
+bool isUniform(const QDateTime& start, const QDateTime& end, qint64 msecs)
+{
+    return (wordOf(start) & isInline) != 0 && wordOf(end) == shifted(wordOf(start), msecs);
+}
+
+QDateTime shift(const QDateTime& start, qint64 msecs)
+{
+    QDateTime time;
+    const quint64 word = shifted(wordOf(start), msecs);
+    std::memcpy(static_cast<void*>(&time), &word, sizeof word);
+    return time;
+}
+
+qint64 dayOf(qint64 msecs)
+{
+    return msecs >= 0 ? msecs / dayMs : -((-msecs + dayMs - 1) / dayMs);
+}
+
+} // namespace
+
 QDateTime LocalTimes::fromMSecs(qint64 msecs)
 {
-    const auto known = m_known.constFind(msecs);
-    if (known != m_known.constEnd())
-        return *known;
-    constexpr int mostRemembered = 4096;
-    if (m_known.size() >= mostRemembered)
-        m_known.clear();
-    return *m_known.insert(msecs, QDateTime::fromMSecsSinceEpoch(msecs));
+    const qint64 day = dayOf(msecs);
+    const qint64 startMs = day * dayMs;
+    auto known = m_utcDays.constFind(day);
+    if (known == m_utcDays.constEnd()) {
+        if (m_utcDays.size() >= mostDays)
+            return QDateTime::fromMSecsSinceEpoch(msecs);
+        const QDateTime start = QDateTime::fromMSecsSinceEpoch(startMs);
+        const QDateTime end = QDateTime::fromMSecsSinceEpoch(startMs + dayMs - 1);
+        known = m_utcDays.insert(day, {start, isUniform(start, end, dayMs - 1)});
+    }
+    return known->isUniform ? shift(known->start, msecs - startMs) : QDateTime::fromMSecsSinceEpoch(msecs);
+}
+
+qint64 LocalTimes::toMSecs(const QDateTime& time)
+{
+    if (time.timeSpec() != Qt::LocalTime)
+        return time.toMSecsSinceEpoch();
+    const QDate date = time.date();
+    auto known = m_localDays.constFind(date.toJulianDay());
+    if (known == m_localDays.constEnd()) {
+        if (m_localDays.size() >= mostDays)
+            return time.toMSecsSinceEpoch();
+        const qint64 start = QDateTime(date, QTime(0, 0)).toMSecsSinceEpoch();
+        const qint64 end = QDateTime(date, QTime(23, 59, 59, 999)).toMSecsSinceEpoch();
+        known = m_localDays.insert(date.toJulianDay(), {start, end - start == dayMs - 1});
+    }
+    return known->isUniform ? known->start + time.time().msecsSinceStartOfDay() : time.toMSecsSinceEpoch();
 }
 
 } // namespace qarn_data

@@ -6,15 +6,28 @@
 namespace qarn_data
 {
 
-/// Milliseconds since 1970 to local times. A conversion asks the time zone rules, and registers hold the
-/// same times over and over, so that known ones are remembered.
+/// Converts between milliseconds since 1970 and local times, many at a go. Asking the time zone rules costs
+/// microseconds a time (with TZ unset the C library looks at a file each time), which would be most of what
+/// opening a large register takes. So they are asked for the first and the last moment of a day only; a day
+/// without a clock change in it is uniform in between. Meant to live for one operation: rules may change.
 class LocalTimes
 {
 public:
     QDateTime fromMSecs(qint64 msecs);
+    qint64 toMSecs(const QDateTime& time); ///< of a valid time
 
 private:
-    QHash<qint64, QDateTime> m_known;
+    struct UtcDay {
+        QDateTime start;
+        bool isUniform = false;
+    };
+    struct LocalDay {
+        qint64 start = 0;
+        bool isUniform = false;
+    };
+
+    QHash<qint64, UtcDay> m_utcDays;     ///< by days since 1970
+    QHash<qint64, LocalDay> m_localDays; ///< by Julian day
 };
 
 } // namespace qarn_data

@@ -118,7 +118,8 @@ void PersonIndex::findFirst(const QSet<QString>& names)
 {
     QSet<QString> open;
     for (const QString& name : names) {
-        if (m_byName.value(name).first == NoRecord)
+        const auto namesakes = m_byName.constFind(name);
+        if (namesakes != m_byName.constEnd() && namesakes->first == NoRecord)
             open.insert(name);
     }
     for (int i = 0; i < m_infos.size() && !open.isEmpty(); ++i) {

@@ -57,11 +57,6 @@ QString facesWhere(const char* condition)
 
 const char* const inRange = "WHERE person IN (SELECT person FROM records WHERE number BETWEEN ? AND ?)";
 
-QVariant toStored(const QDateTime& time)
-{
-    return time.isValid() ? QVariant(time.toMSecsSinceEpoch()) : QVariant(QVariant::LongLong);
-}
-
 QVariant toStored(const QDate& date)
 {
     return date.isValid() ? QVariant(date.toJulianDay()) : QVariant(QVariant::LongLong);
@@ -160,6 +155,11 @@ bool PersonTable::read(const Selection& selection, const QVariantList& values, c
            m_store.forEachRow(selection.records, values, takeRecord);
 }
 
+QVariant PersonTable::stored(const QDateTime& time)
+{
+    return time.isValid() ? QVariant(m_times.toMSecs(time)) : QVariant(QVariant::LongLong);
+}
+
 QVariant PersonTable::place(const QString& organizationId) const
 {
     const qint64 number = m_organizations.number(organizationId);
@@ -172,7 +172,7 @@ bool PersonTable::insertPerson(qint64 person, const PersonInfo& info)
                        " valid_end, remarks, birth_date, identity_type, identity_id, job, employ_date,"
                        " address) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
                        person, info.serialNum, info.name, info.sex, info.email, info.phoneNum,
-                       toStored(info.validStartTime), toStored(info.validEndTime), info.remarks,
+                       stored(info.validStartTime), stored(info.validEndTime), info.remarks,
                        toStored(info.birthDate), info.identityType, info.identityId, info.job,
                        toStored(info.employDate), info.address) &&
            (info.faceImage1.isEmpty() || putFace(person, 1, info.faceImage1)) &&
@@ -204,7 +204,7 @@ bool PersonTable::updatePerson(qint64 person, const PersonInfo& old, const Perso
                     " valid_start = ?, valid_end = ?, remarks = ?, birth_date = ?, identity_type = ?,"
                     " identity_id = ?, job = ?, employ_date = ?, address = ? WHERE number = ?",
                     info.serialNum, info.name, info.sex, info.email, info.phoneNum,
-                    toStored(info.validStartTime), toStored(info.validEndTime), info.remarks,
+                    stored(info.validStartTime), stored(info.validEndTime), info.remarks,
                     toStored(info.birthDate), info.identityType, info.identityId, info.job,
                     toStored(info.employDate), info.address, person) &&
         (old.faceImage1 == info.faceImage1 || putFace(person, 1, info.faceImage1)) &&

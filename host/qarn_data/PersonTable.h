@@ -40,6 +40,7 @@ private:
     bool read(const Selection& selection, const QVariantList& values, const RecordHandler& handler);
     bool putFace(qint64 person, int slot, const QByteArray& bytes);
     bool putFields(qint64 person, const QMap<QString, QString>& fields);
+    QVariant stored(const QDateTime& time);
     QVariant place(const QString& organizationId) const;
 
     SqlStore& m_store;

@@ -8,6 +8,7 @@
 #include <qarn_base/BaseTools.h>
 #include <qarn_data/PersonData.h>
 
+#include <QBuffer>
 #include <QSaveFile>
 
 using qarn_data::PersonData;
@@ -105,10 +106,15 @@ void ExportPersonsThread::exportFace(const PersonInfo& person) const
     const QImage image = XCOMMON::PhotoDecoder::decode(person.faceImage1);
     if (image.isNull())
         return;
-    // Written beside the target first: a full disk leaves the file of that name as it was.
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, "jpg"))
+        return;
+    // Only a whole picture takes the place of the file of that name.
     QSaveFile file(m_path + QLatin1Char('/') + exportedFaceFileName(person, m_faceElements) +
                    QLatin1String(".jpg"));
-    if (file.open(QIODevice::WriteOnly) && image.save(&file, "jpg"))
+    file.setDirectWriteFallback(true);
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size())
         file.commit();
 }
 

@@ -1,0 +1,223 @@
+#include "HttpConnection.h"
+
+#include <dvx_client_sdk/ResponseCodes.h>
+
+#include <QCryptographicHash>
+#include <QNetworkProxy>
+#include <QSslError>
+#include <QSslSocket>
+
+namespace dvx_sdk
+{
+
+namespace
+{
+
+constexpr int ConnectTimeoutMs = 5000;
+constexpr int IdleTimeoutMs = 2000; ///< shorter than servers wait: a close must not meet a request
+constexpr int ReadBufferBytes = 256 * 1024;
+constexpr int HttpPort = 80;
+constexpr int HttpsPort = 443;
+
+} // namespace
+
+HttpConnection::HttpConnection(const QUrl& address, const QString& token, const QByteArray& pinnedCertificate,
+                               QObject* parent)
+    : QObject(parent),
+      m_address(address),
+      m_token(token),
+      m_pin(pinnedCertificate)
+{
+    m_connectTimer.setSingleShot(true);
+    m_connectTimer.setInterval(ConnectTimeoutMs);
+    connect(&m_connectTimer, &QTimer::timeout, this, [this] { fail(TimedOut); });
+    m_idleTimer.setSingleShot(true);
+    m_idleTimer.setInterval(IdleTimeoutMs);
+    connect(&m_idleTimer, &QTimer::timeout, this, &HttpConnection::close);
+}
+
+HttpConnection::~HttpConnection() = default;
+
+void HttpConnection::send(const HttpRequest& request, const Done& done)
+{
+    m_request = request;
+    m_done = done;
+    m_answered = false;
+    m_problems.clear();
+    m_parser = std::make_unique<HttpResponseParser>(request.bodyLimit);
+    m_idleTimer.stop();
+    m_reused = m_ready;
+    if (m_ready)
+        write();
+    else
+        open();
+}
+
+void HttpConnection::cancel()
+{
+    m_done = nullptr;
+    close();
+}
+
+void HttpConnection::createSocket()
+{
+    if (isTls()) {
+        auto socket = std::make_unique<QSslSocket>();
+        connect(socket.get(), &QSslSocket::encrypted, this, &HttpConnection::slotEncrypted);
+        connect(socket.get(), QOverload<const QList<QSslError>&>::of(&QSslSocket::sslErrors), this,
+                &HttpConnection::slotSslErrors);
+        m_socket = std::move(socket);
+    } else {
+        m_socket = std::make_unique<QTcpSocket>();
+        connect(m_socket.get(), &QTcpSocket::connected, this, &HttpConnection::slotConnected);
+    }
+    m_socket->setProxy(QNetworkProxy::NoProxy); // devices stand in the local network
+    m_socket->setReadBufferSize(ReadBufferBytes);
+    connect(m_socket.get(), &QTcpSocket::readyRead, this, &HttpConnection::slotReadyRead);
+    // Queued: an error may come inside connectToHost().
+    connect(m_socket.get(), &QTcpSocket::errorOccurred, this, &HttpConnection::slotError,
+            Qt::QueuedConnection);
+}
+
+void HttpConnection::open()
+{
+    close();
+    createSocket();
+    m_connectTimer.start();
+    if (auto* tls = qobject_cast<QSslSocket*>(m_socket.get()))
+        tls->connectToHostEncrypted(m_address.host(), static_cast<quint16>(m_address.port(HttpsPort)));
+    else
+        m_socket->connectToHost(m_address.host(), static_cast<quint16>(m_address.port(HttpPort)));
+}
+
+void HttpConnection::slotConnected()
+{
+    m_connectTimer.stop();
+    m_socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+    m_ready = true;
+    write();
+}
+
+void HttpConnection::slotEncrypted()
+{
+    if (m_pin.isEmpty() || isPinned())
+        return slotConnected();
+    // Also when the system would trust the other one. Queued: the socket is in the middle of its handshake.
+    refuseCertificate({tr("The device shows another certificate than the one that was accepted.")});
+    QMetaObject::invokeMethod(
+        this, [this] { fail(Untrusted); }, Qt::QueuedConnection);
+}
+
+void HttpConnection::slotSslErrors(const QList<QSslError>& errors)
+{
+    if (isPinned())
+        return qobject_cast<QSslSocket*>(m_socket.get())->ignoreSslErrors();
+    QStringList problems;
+    for (const QSslError& error : errors)
+        problems.append(error.errorString());
+    refuseCertificate(problems); // the socket reports the failed handshake next
+}
+
+void HttpConnection::refuseCertificate(const QStringList& problems)
+{
+    m_problems = problems;
+    m_certificate = qobject_cast<QSslSocket*>(m_socket.get())->peerCertificate();
+}
+
+bool HttpConnection::isPinned() const
+{
+    const auto* tls = qobject_cast<const QSslSocket*>(m_socket.get());
+    return tls != nullptr && !m_pin.isEmpty() &&
+           tls->peerCertificate().digest(QCryptographicHash::Sha256) == m_pin;
+}
+
+void HttpConnection::write()
+{
+    m_socket->write(toWire(m_request, m_address, m_token));
+}
+
+void HttpConnection::slotReadyRead()
+{
+    if (!isBusy())
+        return close(); // nothing was asked
+    m_answered = true;
+    while (m_socket != nullptr && m_socket->bytesAvailable() > 0 && !m_parser->isDone()) {
+        m_parser->feed(m_socket->read(ReadBufferBytes));
+        if (m_parser->isBroken())
+            return fail(BadAnswer);
+    }
+    if (m_parser->isDone())
+        succeed();
+}
+
+void HttpConnection::slotError()
+{
+    if (m_socket == nullptr || sender() != m_socket.get())
+        return; // of a socket that was given up
+    if (!isBusy())
+        return close();
+    if (!m_problems.isEmpty())
+        return fail(Untrusted);
+    if (!m_ready) {
+        const bool tls = m_socket->error() == QAbstractSocket::SslHandshakeFailedError ||
+                         (isTls() && m_socket->error() == QAbstractSocket::RemoteHostClosedError);
+        return fail(tls ? TlsFailed : NoRoute);
+    }
+    if (m_socket->bytesAvailable() > 0)
+        slotReadyRead();
+    if (!isBusy())
+        return;
+    m_parser->finish();
+    if (m_parser->isDone())
+        return succeed();
+    fail(ConnectionLost);
+}
+
+void HttpConnection::succeed()
+{
+    HttpResult result;
+    result.status = m_parser->status();
+    result.body = m_parser->body();
+    finish(result);
+}
+
+void HttpConnection::fail(int code)
+{
+    HttpResult result;
+    result.failure = code;
+    result.stale = code == ConnectionLost && m_reused && !m_answered;
+    if (code == Untrusted) {
+        result.certificate = m_certificate;
+        result.problems = m_problems;
+    }
+    finish(result);
+}
+
+void HttpConnection::finish(const HttpResult& result)
+{
+    if (!isBusy())
+        return;
+    const bool sentWhole = m_socket != nullptr && m_socket->bytesToWrite() == 0;
+    if (result.failure != 0 || !m_parser->canKeepAlive() || !sentWhole)
+        close();
+    else
+        m_idleTimer.start();
+    m_request = {};
+    const Done done = std::move(m_done);
+    m_done = nullptr;
+    done(result);
+}
+
+void HttpConnection::close()
+{
+    m_connectTimer.stop();
+    m_idleTimer.stop();
+    m_ready = false;
+    if (m_socket == nullptr)
+        return;
+    m_socket->disconnect(this);
+    m_socket->abort();
+    m_socket.release()->deleteLater(); // this may run inside one of its signals
+}
+
+} // namespace dvx_sdk

@@ -1,0 +1,41 @@
+#include "HttpRequest.h"
+
+#include <algorithm>
+
+namespace dvx_sdk
+{
+
+bool isUsable(const QUrl& address, const QString& token)
+{
+    const bool http = address.scheme() == QLatin1String("http") || address.scheme() == QLatin1String("https");
+    return http && address.isValid() && !address.host().isEmpty() &&
+           std::all_of(token.cbegin(), token.cend(),
+                       [](QChar c) { return c.unicode() > 0x20 && c.unicode() < 0x7f; });
+}
+
+QByteArray toWire(const HttpRequest& request, const QUrl& address, const QString& token)
+{
+    QByteArray base = address.path(QUrl::FullyEncoded).toLatin1();
+    while (base.endsWith('/'))
+        base.chop(1);
+    QByteArray host = address.host(QUrl::FullyEncoded).toLatin1();
+    if (host.contains(':'))
+        host = '[' + host + ']';
+    if (address.port() > 0)
+        host += ':' + QByteArray::number(address.port());
+
+    QByteArray wire;
+    wire.reserve(request.body.size() + 1024);
+    wire += request.method + ' ' + base + request.path + " HTTP/1.1\r\nHost: " + host + "\r\n";
+    if (!token.isEmpty())
+        wire += "Authorization: Bearer " + token.toLatin1() + "\r\n";
+    // Compressed answers would make a small answer a large one after the size was checked.
+    wire += "Accept: application/scim+json, application/json\r\nAccept-Encoding: identity\r\n"
+            "User-Agent: qarn-person-register\r\n";
+    if (!request.body.isEmpty())
+        wire += QByteArray("Content-Type: ") + ScimMediaType +
+                "\r\nContent-Length: " + QByteArray::number(request.body.size()) + "\r\n";
+    return wire += "\r\n" + request.body;
+}
+
+} // namespace dvx_sdk

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QByteArray>
+#include <QMap>
+
+namespace dvx_sdk
+{
+
+/// Reads one HTTP/1.1 answer piece by piece (RFC 9112) and takes no more of it than the limits allow.
+class HttpResponseParser
+{
+public:
+    explicit HttpResponseParser(qint64 bodyLimit);
+
+    void feed(const QByteArray& bytes);
+    void finish(); ///< the connection was closed
+
+    bool isDone() const { return m_state == State::Done; }
+    bool isBroken() const { return m_state == State::Broken; }
+    int status() const { return m_status; }
+    QByteArray header(const QByteArray& lowerCaseName) const { return m_headers.value(lowerCaseName); }
+    const QByteArray& body() const { return m_body; }
+    /// Whether the connection can carry another request. Only when done.
+    bool canKeepAlive() const { return m_keepAlive; }
+
+private:
+    enum class State { Head, Length, ChunkHead, Chunk, ChunkTail, Trailer, UntilClose, Done, Broken };
+
+    bool step();
+    bool takeLine(QByteArray& line);
+    void readStatusLine(const QByteArray& line);
+    void readHeader(const QByteArray& line);
+    void endHead();
+    void readChunkHead(const QByteArray& line);
+    bool takeBody();
+    void limitBody(qint64 more);
+    void end();
+
+    State m_state = State::Head;
+    const qint64 m_bodyLimit;
+    qint64 m_remaining = 0; ///< bytes of the body, or of the chunk, still to come
+    qint64 m_headBytes = 0;
+    int m_status = 0;
+    bool m_oldProtocol = false;
+    bool m_keepAlive = false;
+    QMap<QByteArray, QByteArray> m_headers;
+    QByteArray m_input;
+    QByteArray m_body;
+};
+
+} // namespace dvx_sdk

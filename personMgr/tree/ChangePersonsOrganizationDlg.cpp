@@ -1,0 +1,57 @@
+#include "tree/ChangePersonsOrganizationDlg.h"
+#include "ui_ChangePersonsOrganizationDlg.h"
+
+#include <qarn_base/SearchTreeTools.h>
+#include <qarn_worker/DictDef.h>
+#include <qarn_worker/SystemAssistant.h>
+
+#include <QKeyEvent>
+
+using qarn_worker::DictDef;
+using qarn_worker::SystemAssistant;
+
+namespace qarn_personMgr
+{
+
+ChangePersonsOrganizationDlg::ChangePersonsOrganizationDlg(QWidget* parent)
+    : CommonDialog(parent, false, true),
+      m_ui(std::make_unique<Ui::ChangePersonsOrganizationDlg>())
+{
+    m_ui->setupUi(this);
+    setTitle(tr("Change Persons Organization"));
+    new qarn_base::SearchTreeTools(m_ui->searchWt, m_ui->treeWidget, this);
+    connect(m_ui->okBt, &QPushButton::clicked, this, &ChangePersonsOrganizationDlg::validate);
+    connect(m_ui->cancelBt, &QPushButton::clicked, this, &ChangePersonsOrganizationDlg::reject);
+}
+
+ChangePersonsOrganizationDlg::~ChangePersonsOrganizationDlg() = default;
+
+QString ChangePersonsOrganizationDlg::getSelOrganizationId() const
+{
+    return m_ui->treeWidget->getCurSelOrganizationId();
+}
+
+bool ChangePersonsOrganizationDlg::isRetainOld() const
+{
+    return !m_ui->retainOld->isChecked();
+}
+
+void ChangePersonsOrganizationDlg::validate()
+{
+    if (!getSelOrganizationId().isEmpty())
+        accept();
+    else
+        SystemAssistant::instance().messageAlert(DictDef::instance().warningAlertTitle,
+                                                 tr("Please Select organization to move persons"));
+}
+
+void ChangePersonsOrganizationDlg::keyPressEvent(QKeyEvent* event)
+{
+    // Return and Escape belong to the search while it has the focus.
+    if (m_ui->searchWt->searchLineEtHasFocus())
+        event->ignore();
+    else
+        CommonDialog::keyPressEvent(event);
+}
+
+} // namespace qarn_personMgr
