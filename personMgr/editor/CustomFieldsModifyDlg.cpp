@@ -153,6 +153,7 @@ void CustomFieldsModifyDlg::save()
 void CustomFieldsModifyDlg::watchNameEditor(QLineEdit* editor, const QString& rowId)
 {
     editor->setMaxLength(CustomFieldNameMaxLength);
+    editor->selectAll(); // the limit has set the text anew
     m_nameEditor = editor;
     m_editedRowId = rowId;
     // Rows that light up under the mouse would disturb the editor.
