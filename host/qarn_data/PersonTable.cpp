@@ -34,32 +34,31 @@ enum Column {
 
 constexpr int faceSlots = 3;
 
-QString recordsWhere(const char* condition)
+QByteArray recordsWhere(const char* condition)
 {
-    return QStringLiteral("SELECT r.number, r.person, r.id, r.organization, p.serial_num, p.name, p.sex,"
-                          " p.email, p.phone_num, p.valid_start, p.valid_end, p.remarks, p.birth_date,"
-                          " p.identity_type, p.identity_id, p.job, p.employ_date, p.address"
-                          " FROM records r JOIN persons p ON p.number = r.person %1 ORDER BY r.number")
-        .arg(QLatin1String(condition));
+    return QByteArray("SELECT r.number, r.person, r.id, r.organization, p.serial_num, p.name, p.sex,"
+                      " p.email, p.phone_num, p.valid_start, p.valid_end, p.remarks, p.birth_date,"
+                      " p.identity_type, p.identity_id, p.job, p.employ_date, p.address"
+                      " FROM records r JOIN persons p ON p.number = r.person ") +
+           condition + " ORDER BY r.number";
 }
 
-QString valuesWhere(const char* condition)
+QByteArray valuesWhere(const char* condition)
 {
-    return QStringLiteral("SELECT person, field, value FROM custom_values %1 ORDER BY person, field")
-        .arg(QLatin1String(condition));
+    return QByteArray("SELECT person, field, value FROM custom_values ") + condition +
+           " ORDER BY person, field";
 }
 
-QString facesWhere(const char* condition)
+QByteArray facesWhere(const char* condition)
 {
-    return QStringLiteral("SELECT person, slot, hash FROM person_faces %1 ORDER BY person, slot")
-        .arg(QLatin1String(condition));
+    return QByteArray("SELECT person, slot, hash FROM person_faces ") + condition + " ORDER BY person, slot";
 }
 
 const char* const inRange = "WHERE person IN (SELECT person FROM records WHERE number BETWEEN ? AND ?)";
 
-QVariant toStored(const QDate& date)
+std::optional<qint64> toStored(const QDate& date)
 {
-    return date.isValid() ? QVariant(date.toJulianDay()) : QVariant(QVariant::LongLong);
+    return date.isValid() ? std::optional<qint64>(date.toJulianDay()) : std::nullopt;
 }
 
 QDate dateAt(const Row& row, int column)
@@ -72,9 +71,9 @@ using Faces = std::array<QByteArray, faceSlots>;
 } // namespace
 
 struct PersonTable::Selection {
-    QString records;
-    QString values;
-    QString faces;
+    QByteArray records;
+    QByteArray values;
+    QByteArray faces;
 };
 
 PersonTable::PersonTable(SqlStore& store, const OrganizationIndex& organizations)
@@ -104,7 +103,7 @@ bool PersonTable::readPerson(qint64 person, const RecordHandler& handler)
     return read(one, {person}, handler);
 }
 
-bool PersonTable::read(const Selection& selection, const QVariantList& values, const RecordHandler& handler)
+bool PersonTable::read(const Selection& selection, const Values& values, const RecordHandler& handler)
 {
     QHash<qint64, QMap<QString, QString>> fields;
     const auto takeField = [&fields](const Row& row) {
@@ -150,20 +149,20 @@ bool PersonTable::read(const Selection& selection, const QVariantList& values, c
         }
         handler(record);
     };
-    return m_store.forEachRow(selection.values, values, takeField) &&
-           m_store.forEachRow(selection.faces, values, takeFace) &&
-           m_store.forEachRow(selection.records, values, takeRecord);
+    return m_store.forEachRow(selection.values.constData(), values, takeField) &&
+           m_store.forEachRow(selection.faces.constData(), values, takeFace) &&
+           m_store.forEachRow(selection.records.constData(), values, takeRecord);
 }
 
-QVariant PersonTable::stored(const QDateTime& time)
+std::optional<qint64> PersonTable::stored(const QDateTime& time)
 {
-    return time.isValid() ? QVariant(m_times.toMSecs(time)) : QVariant(QVariant::LongLong);
+    return time.isValid() ? std::optional<qint64>(m_times.toMSecs(time)) : std::nullopt;
 }
 
-QVariant PersonTable::place(const QString& organizationId) const
+std::optional<qint64> PersonTable::place(const QString& organizationId) const
 {
     const qint64 number = m_organizations.number(organizationId);
-    return number == 0 ? QVariant(QVariant::LongLong) : QVariant(number);
+    return number == 0 ? std::nullopt : std::optional<qint64>(number);
 }
 
 bool PersonTable::insertPerson(qint64 person, const PersonInfo& info)
