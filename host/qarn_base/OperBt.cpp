@@ -32,7 +32,7 @@ OperBt::OperBt(Kind kind, QWidget* parent) : IconButton(parent)
     setIconSize(QSize(Side, Side));
     setFixedSize(Side, Side);
     setFlat(true);
-    setAutoDefault(false);
+    setMouseTracking(true); // so that moves over it reach the row
     setToolTip(kind == Kind::Add ? tr("add") : kind == Kind::Edit ? tr("edit") : tr("delete"));
     setAccessibleName(toolTip());
     setStyleSheet(QStringLiteral(

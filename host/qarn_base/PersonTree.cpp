@@ -41,14 +41,14 @@ PersonTree::PersonTree(QWidget* parent, TreeConfig* config)
     connect(&p->settle, &QTimer::timeout, this, [this] { p->anchor.restore(); });
     p->compare.setSingleShot(true);
     p->compare.setInterval(CompareDelay);
-    connect(&p->compare, &QTimer::timeout, this, &PersonTree::reload);
+    connect(&p->compare, &QTimer::timeout, this, &PersonTree::slotReload);
 
     const DataSignals& dataSignals = DataSignals::instance();
     connect(&dataSignals, &DataSignals::signalAddOrganizationToLocalDB, this, &PersonTree::follow);
     connect(&dataSignals, &DataSignals::signalUpdateOrganizationInLocalDB, this, &PersonTree::follow);
     connect(&dataSignals, &DataSignals::signalDeleteOrganizationsFromLocalDB, this,
             &PersonTree::followDeletion);
-    reload();
+    slotReload();
 }
 
 PersonTree::~PersonTree() = default;
@@ -76,7 +76,7 @@ void PersonTree::follow(const OrganizationInfo& organization, bool success)
         return;
     prepareChange();
     if (!p->sync.apply(organization))
-        reload();
+        slotReload();
     p->compare.start();
 }
 
@@ -90,13 +90,20 @@ void PersonTree::followDeletion(const QStringList& ids, bool success)
     p->compare.start();
 }
 
+void PersonTree::showEvent(QShowEvent* event)
+{
+    // The client may have opened another store while the page was out of sight.
+    slotReload();
+    CommonTree::showEvent(event);
+}
+
 void PersonTree::prepareChange()
 {
     p->anchor.remember();
     p->settle.start();
 }
 
-void PersonTree::reload()
+void PersonTree::slotReload()
 {
     const QString root = PersonData::instance().getRootOrganizationId();
     const bool rootIsNew = findTreeItem(root) == nullptr;

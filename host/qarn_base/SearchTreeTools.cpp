@@ -191,7 +191,7 @@ void SearchTreeTools::Private::gotoMatch(int step)
     if (matches.isEmpty())
         return;
     const int count = matches.size();
-    const int next = step > 0 ? before + 1 : before - (exact || before < 0 ? 1 : 0);
+    const int next = step > 0 ? before + 1 : before - (exact ? 1 : 0);
     QTreeWidgetItem* target = matches.at((next % count + count) % count);
     tree->setCurSelItem(target);
     tree->scrollToItem(target);

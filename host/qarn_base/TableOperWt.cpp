@@ -5,7 +5,10 @@
 namespace qarn_base
 {
 
-TableOperWt::TableOperWt(QWidget* parent) : QWidget(parent) {}
+TableOperWt::TableOperWt(QWidget* parent) : QWidget(parent)
+{
+    setMouseTracking(true); // so that moves over it reach the table
+}
 
 void TableOperWt::setWtStyle(WidgetStyle style)
 {

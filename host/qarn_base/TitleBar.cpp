@@ -95,13 +95,13 @@ void TitleBar::setTitle(const QString& title)
 
 void TitleBar::goLastInTabOrder()
 {
-    QWidget* last = window()->previousInFocusChain();
-    if (last == m_closeBt)
+    // QWidget::setTabOrder() does not move a widget behind the last one; a new child goes there.
+    QWidget* dialog = parentWidget();
+    if (dialog->previousInFocusChain() == m_closeBt)
         return;
-    for (TitleBarBt* button : {m_minimizeBt, m_maximizeBt, m_closeBt}) {
-        setTabOrder(last, button);
-        last = button;
-    }
+    setParent(nullptr);
+    setParent(dialog);
+    raise();
 }
 
 void TitleBar::paintEvent(QPaintEvent*)

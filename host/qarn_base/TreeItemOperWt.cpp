@@ -10,6 +10,7 @@ namespace qarn_base
 TreeItemOperWt::TreeItemOperWt(bool isRoot, bool showAdd, bool showEdit, bool showDelete, QWidget* parent)
     : QWidget(parent)
 {
+    setMouseTracking(true); // so that moves over it reach the tree
     auto* addBt = new OperBt(OperBt::Kind::Add, this);
     auto* editBt = new OperBt(OperBt::Kind::Edit, this);
     auto* deleteBt = new OperBt(OperBt::Kind::Delete, this);
@@ -21,8 +22,12 @@ TreeItemOperWt::TreeItemOperWt(bool isRoot, bool showAdd, bool showEdit, bool sh
     layout->setContentsMargins(0, 0, 4, 0);
     layout->setSpacing(4);
     layout->addStretch();
-    for (OperBt* button : {addBt, editBt, deleteBt})
+    for (OperBt* button : {addBt, editBt, deleteBt}) {
         layout->addWidget(button);
+        // They come and go with the mouse; the tree has keys for them.
+        button->setFocusPolicy(Qt::NoFocus);
+        button->setAutoDefault(false);
+    }
 
     connect(addBt, &QPushButton::clicked, this, &TreeItemOperWt::signalAddBtClicked);
     connect(editBt, &QPushButton::clicked, this, &TreeItemOperWt::signalEditBtClicked);

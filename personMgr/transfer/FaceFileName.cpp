@@ -41,7 +41,7 @@ FaceFileName readFaceFileName(const QString& baseName, const QList<int>& namingR
         return parts.value(namingRule.indexOf(element)); // a null text where there is none
     };
     FaceFileName result;
-    result.serialNum = normalizedSerialNum(part(SerialNumElement));
+    result.serialNum = importedSerialNum(part(SerialNumElement));
     result.name = part(PersonNameElement).trimmed();
     const int sexPosition = namingRule.indexOf(SexElement);
     result.hasSex = sexPosition >= 0 && sexPosition < parts.count();

@@ -93,7 +93,7 @@ void ImportPersonsThread::importFile()
 
 void ImportPersonsThread::importRow(const QStringList& fields)
 {
-    const QString serialNum = normalizedSerialNum(fields[SerialNumField]);
+    const QString serialNum = importedSerialNum(fields[SerialNumField]);
     const QString name = fields[NameField].trimmed();
     PersonInfo person = findPerson(serialNum, name);
     if (!fields[OrganizationField].trimmed().isEmpty() || person.serialNum.isEmpty())

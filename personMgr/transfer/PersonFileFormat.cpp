@@ -78,7 +78,7 @@ QStringList importFields(const QString& line)
     return fields;
 }
 
-QString normalizedSerialNum(const QString& text)
+QString importedSerialNum(const QString& text)
 {
     const QString serialNum = text.toUpper().trimmed();
     if (serialNum.isEmpty() || serialNumPattern().match(serialNum).hasMatch())

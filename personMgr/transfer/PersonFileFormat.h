@@ -49,7 +49,7 @@ QStringList importFields(const QString& line);
 
 /// Upper-cased and trimmed; a serial number with a character that is not allowed becomes a random one.
 /// Empty stays empty.
-QString normalizedSerialNum(const QString& text);
+QString importedSerialNum(const QString& text);
 
 /// The ten characters that stand for a missing or refused serial number.
 QString randomSerialNum();

@@ -173,6 +173,7 @@ void tst_PageEditWt::pageSizeOnlyAnnounces()
 
 void tst_PageEditWt::wheelOverTheSizeChangesNothing()
 {
+    m_bar->updateTotalCnt(1000, 7);
     find<QSpinBox>("curPage")->setFocus();
     auto* size = find<QComboBox>("pageSize");
     const QPoint at = size->rect().center();

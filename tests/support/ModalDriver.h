@@ -15,38 +15,43 @@ class ModalDriver : public QObject
 public:
     using Action = std::function<void(QWidget* window)>;
 
-    ModalDriver()
-    {
-        m_timer.setInterval(5);
-        connect(&m_timer, &QTimer::timeout, this, &ModalDriver::look);
-    }
-
     void expect(Action action)
     {
         m_actions.append(std::move(action));
-        m_timer.start();
+        lookSoon();
     }
 
     /// Actions whose window has not come; 0 at the end of a test.
     int pending() const { return m_actions.count(); }
 
 private:
+    /// A timer of its own for every look: one that is being handled does not fire again in a nested loop.
+    void lookSoon()
+    {
+        if (m_looking || m_actions.isEmpty())
+            return;
+        m_looking = true;
+        QTimer::singleShot(5, this, &ModalDriver::look);
+    }
+
     void look()
     {
+        m_looking = false;
         QWidget* window = QApplication::activePopupWidget();
         if (window == nullptr)
             window = QApplication::activeModalWidget();
         m_handled.removeAll(nullptr);
-        if (window == nullptr || !window->isVisible() || m_handled.contains(window) || m_actions.isEmpty())
+        if (window == nullptr || !window->isVisible() || m_handled.contains(window)) {
+            lookSoon();
             return;
+        }
         m_handled.append(window);
         const Action action = m_actions.takeFirst();
-        if (m_actions.isEmpty())
-            m_timer.stop();
+        lookSoon();
         action(window);
     }
 
-    QTimer m_timer;
+    bool m_looking = false;
     QList<Action> m_actions;
     QList<QPointer<QWidget>> m_handled;
 };

@@ -1,6 +1,6 @@
 #include "table/FaceThumbnails.h"
 
-#include "TestPersons.h"
+#include "TestPictures.h"
 
 #include <QtTest>
 

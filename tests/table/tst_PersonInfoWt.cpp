@@ -2,6 +2,7 @@
 
 #include "ModalDriver.h"
 #include "TestPersons.h"
+#include "TestPictures.h"
 #include "TestStore.h"
 
 #include <qarn_base/BaseTools.h>
@@ -224,8 +225,9 @@ void tst_PersonInfoWt::reportsAClickOnTheBox()
     m_row->setChecked(true);
     m_row->setChecked(false);
     QCOMPARE(checks.count(), 0);
-    QTest::mouseClick(child<QCheckBox>("orderNum"), Qt::LeftButton, {}, QPoint(8, 60));
-    QTest::keyClick(child<QCheckBox>("orderNum"), Qt::Key_Space);
+    auto* box = child<QCheckBox>("orderNum");
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+    QTest::keyClick(box, Qt::Key_Space);
     QCOMPARE(checks.count(), 2);
     QCOMPARE(checks.at(0).at(0).toBool(), true);
     QCOMPARE(checks.at(1).at(0).toBool(), false);

@@ -21,6 +21,7 @@ class tst_PersonsTableWt : public QObject
 {
     Q_OBJECT
 private slots:
+    void initTestCase() { qRegisterMetaType<Qt::CheckState>(); }
     void init();
     void cleanup();
 

@@ -35,6 +35,7 @@ private:
     void run(QThread& thread)
     {
         using qarn_data::DataSignals;
+        QCoreApplication::processEvents(); // alerts of an earlier run
         connect(
             &DataSignals::instance(), &DataSignals::signalAddPersonsToLocalDB, this,
             [this](const qarn_data::PersonList& persons, bool) {

@@ -298,7 +298,7 @@ void tst_ExportPersonsThread::namesFilesByTheElements()
     add(person);
     exportFaces(elements);
     QFETCH(QString, fileName);
-    QCOMPARE(QDir(m_directory->path()).entryList(QDir::Files), QStringList{fileName});
+    QCOMPARE(QDir(m_directory->path()).entryList(QDir::Files | QDir::Hidden), QStringList{fileName});
 }
 
 void tst_ExportPersonsThread::standsUpATurnedPhotograph()

@@ -233,7 +233,7 @@ void tst_PersonFileReader::boundsMemoryForALineOfSeparators()
     const QString path = m_directory.filePath("sparse.csv");
     transferFiles::write(path, transferFiles::header() + "1,,,,,,,,");
     QFile file(path);
-    QVERIFY(file.resize(1LL << 30)); // a line of a gigabyte, all of it behind the last field
+    QVERIFY(file.resize(128 << 20)); // one line, nearly all of it behind the last field
     PersonFileReader reader(path, title);
     QVERIFY(reader.open());
     QStringList fields;

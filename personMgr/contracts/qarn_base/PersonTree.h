@@ -26,11 +26,16 @@ public:
     TreeItem* getOrganizationItem(const QString& id) const;       ///< null when unknown
     TreeItem* getOrganizationParentItem(const QString& id) const; ///< null when unknown or the root
 
+public slots:
+    void slotReload(); ///< compares with the store that is open now; every change of it is followed anyway
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void follow(const qarn_data::OrganizationInfo& organization, bool success);
     void followDeletion(const QStringList& ids, bool success);
     void prepareChange();
-    void reload();
 
     struct Private;
     std::unique_ptr<Private> p;

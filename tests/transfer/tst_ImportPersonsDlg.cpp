@@ -1,0 +1,339 @@
+#include "ModalDriver.h"
+#include "TransferFiles.h"
+
+#include "transfer/ImportPersonsDlg.h"
+
+#include <qarn_worker/SystemAssistant.h>
+
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStackedWidget>
+#include <QTemporaryDir>
+#include <QToolTip>
+
+using qarn_personMgr::ImportPersonsDlg;
+using qarn_worker::SystemAssistant;
+
+class tst_ImportPersonsDlg : public QObject
+{
+    Q_OBJECT
+private slots:
+    void startsWithAPersonFile();
+    void holdsItsTexts();
+    void keepsBothPathsApart();
+    void asksForTheRightThing();
+    void emptiesThePathOnCancel_data();
+    void emptiesThePathOnCancel();
+    void choosesAPathByKeyboard();
+    void switchesTheModeByKeyboard();
+    void ordersTheRuleByTheBoxes();
+    void refusesWithoutPath_data();
+    void refusesWithoutPath();
+    void refusesWithoutRule();
+    void acceptsAndRejects();
+    void writesTheTemplate();
+    void tellsATemplateThatCannotBeWritten();
+    void writesNothingOnCancel();
+
+private:
+    QTemporaryDir m_directory;
+};
+
+namespace
+{
+
+template <class T>
+T* part(const QWidget& dialog, const char* name)
+{
+    T* found = dialog.findChild<T*>(name);
+    if (found == nullptr)
+        qFatal("no %s", name);
+    return found;
+}
+
+void click(const QWidget& dialog, const char* name)
+{
+    QWidget* widget = part<QWidget>(dialog, name);
+    auto* button = qobject_cast<QAbstractButton*>(widget);
+    if (button != nullptr)
+        button->click();
+    else
+        QTest::mouseClick(widget, Qt::LeftButton);
+}
+
+QString text(const QWidget& dialog, const char* name)
+{
+    return part<QLineEdit>(dialog, name)->text();
+}
+
+/// Answers a file dialog with a path; an empty one cancels.
+ModalDriver::Action answer(const QString& path, QString* caption = nullptr)
+{
+    return [path, caption](QWidget* window) {
+        auto* dialog = qobject_cast<QFileDialog*>(window);
+        if (caption != nullptr)
+            *caption = window->windowTitle();
+        if (path.isEmpty()) {
+            dialog->reject();
+            return;
+        }
+        part<QLineEdit>(*dialog, "fileNameEdit")->setText(path);
+        QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection); // it may ask something in turn
+    };
+}
+
+} // namespace
+
+void tst_ImportPersonsDlg::startsWithAPersonFile()
+{
+    const ImportPersonsDlg dialog(nullptr);
+    QCOMPARE(dialog.objectName(), QString("qarn_personMgr__ImportPersonsDlg"));
+    QVERIFY(!dialog.isFaceMode());
+    QCOMPARE(part<QStackedWidget>(dialog, "stackedWidget")->currentIndex(), 0);
+    QVERIFY(part<QRadioButton>(dialog, "personInfoChecked")->isChecked());
+    QVERIFY(dialog.getPath().isEmpty());
+    QVERIFY(part<QLineEdit>(dialog, "filePath")->isReadOnly());
+    QVERIFY(part<QLineEdit>(dialog, "namingRules")->isReadOnly());
+    QCOMPARE(dialog.getNamingRule(), (QList<int>{0, 1, 2}));
+    for (const char* box : {"serialNumChecked", "personNameChecked", "sexChecked"})
+        QVERIFY(part<QCheckBox>(dialog, box)->isChecked());
+    QVERIFY(part<QPushButton>(dialog, "importBt")->property("common_bt_style1").toBool());
+    QVERIFY(part<QPushButton>(dialog, "cancelBt")->property("common_bt_style2").toBool());
+}
+
+void tst_ImportPersonsDlg::holdsItsTexts()
+{
+    const ImportPersonsDlg dialog(nullptr);
+    QCOMPARE(part<QLabel>(dialog, "title")->text(), QString("Import persons"));
+    QCOMPARE(part<QLabel>(dialog, "label")->text(), QString("Import"));
+    QCOMPARE(part<QLabel>(dialog, "label_2")->text(), QString("Import File"));
+    QCOMPARE(part<QLabel>(dialog, "label_3")->text(), QString("Naming Rules"));
+    QCOMPARE(part<QLabel>(dialog, "label_5")->text(),
+             QString("1.Single picture less than 200K\n2.Format only supports jpg\n3.sex:Male,Female"));
+    QCOMPARE(part<QLabel>(dialog, "downloadTemplate")->text(), QString("Download personnel import template"));
+    QCOMPARE(text(dialog, "namingRules"), QString("Serial Num_Person Name_Sex"));
+    const QList<QPair<const char*, const char*>> buttons{{"personInfoChecked", "Person Info"},
+                                                         {"personFaceChecked", "Person Face"},
+                                                         {"serialNumChecked", "SerialNum"},
+                                                         {"personNameChecked", "PersonName"},
+                                                         {"sexChecked", "Sex"},
+                                                         {"importBt", "Import"},
+                                                         {"cancelBt", "Cancel"}};
+    for (const auto& button : buttons)
+        QCOMPARE(part<QAbstractButton>(dialog, button.first)->text(), QString(button.second));
+}
+
+void tst_ImportPersonsDlg::keepsBothPathsApart()
+{
+    const QString file = transferFiles::write(m_directory.filePath("persons.csv"), "x");
+    ImportPersonsDlg dialog(nullptr);
+    dialog.show();
+    ModalDriver driver;
+    driver.expect(answer(file));
+    click(dialog, "filePath");
+    QCOMPARE(dialog.getPath(), file);
+    click(dialog, "personFaceChecked");
+    QVERIFY(dialog.isFaceMode());
+    QCOMPARE(part<QStackedWidget>(dialog, "stackedWidget")->currentIndex(), 1);
+    QVERIFY(dialog.getPath().isEmpty());
+    driver.expect(answer(m_directory.path()));
+    click(dialog, "filePath");
+    QCOMPARE(dialog.getPath(), m_directory.path());
+    click(dialog, "personInfoChecked");
+    QCOMPARE(part<QStackedWidget>(dialog, "stackedWidget")->currentIndex(), 0);
+    QCOMPARE(dialog.getPath(), file);
+    click(dialog, "personFaceChecked");
+    QCOMPARE(dialog.getPath(), m_directory.path());
+    QCOMPARE(driver.pending(), 0);
+}
+
+void tst_ImportPersonsDlg::asksForTheRightThing()
+{
+    ImportPersonsDlg dialog(nullptr);
+    dialog.show();
+    ModalDriver driver;
+    QString caption;
+    driver.expect(answer(QString(), &caption));
+    click(dialog, "filePath");
+    QCOMPARE(caption, QString("Select Person info file"));
+    click(dialog, "personFaceChecked");
+    driver.expect(answer(QString(), &caption));
+    click(dialog, "filePath");
+    QCOMPARE(caption, QString("Select Person faces dir"));
+}
+
+void tst_ImportPersonsDlg::emptiesThePathOnCancel_data()
+{
+    QTest::addColumn<bool>("faceMode");
+    QTest::newRow("person file") << false;
+    QTest::newRow("face directory") << true;
+}
+
+void tst_ImportPersonsDlg::emptiesThePathOnCancel()
+{
+    QFETCH(bool, faceMode);
+    const QString file = transferFiles::write(m_directory.filePath("persons.csv"), "x");
+    ImportPersonsDlg dialog(nullptr);
+    dialog.show();
+    ModalDriver driver;
+    click(dialog, faceMode ? "personFaceChecked" : "personInfoChecked");
+    driver.expect(answer(faceMode ? m_directory.path() : file));
+    click(dialog, "filePath");
+    QVERIFY(!dialog.getPath().isEmpty());
+    driver.expect(answer(QString()));
+    click(dialog, "filePath");
+    QVERIFY(dialog.getPath().isEmpty());
+    click(dialog, faceMode ? "personInfoChecked" : "personFaceChecked");
+    click(dialog, faceMode ? "personFaceChecked" : "personInfoChecked");
+    QVERIFY2(dialog.getPath().isEmpty(), "the remembered path is gone too");
+}
+
+void tst_ImportPersonsDlg::choosesAPathByKeyboard()
+{
+    const QString file = transferFiles::write(m_directory.filePath("persons.csv"), "x");
+    ImportPersonsDlg dialog(nullptr);
+    dialog.show();
+    ModalDriver driver;
+    driver.expect(answer(file));
+    QTest::keyClick(part<QWidget>(dialog, "filePath"), Qt::Key_Space);
+    QCOMPARE(dialog.getPath(), file);
+}
+
+void tst_ImportPersonsDlg::switchesTheModeByKeyboard()
+{
+    ImportPersonsDlg dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto* info = part<QRadioButton>(dialog, "personInfoChecked");
+    info->setFocus();
+    QTest::keyClick(info, Qt::Key_Right);
+    QVERIFY(dialog.isFaceMode());
+    QCOMPARE(part<QStackedWidget>(dialog, "stackedWidget")->currentIndex(), 1);
+}
+
+void tst_ImportPersonsDlg::ordersTheRuleByTheBoxes()
+{
+    const ImportPersonsDlg dialog(nullptr);
+    click(dialog, "personNameChecked");
+    QCOMPARE(text(dialog, "namingRules"), QString("Serial Num_Sex"));
+    QCOMPARE(dialog.getNamingRule(), (QList<int>{0, 2}));
+    click(dialog, "serialNumChecked");
+    click(dialog, "sexChecked");
+    QCOMPARE(text(dialog, "namingRules"), QString());
+    QCOMPARE(dialog.getNamingRule(), QList<int>());
+    click(dialog, "sexChecked");
+    click(dialog, "serialNumChecked");
+    QCOMPARE(text(dialog, "namingRules"), QString("Sex_Serial Num"));
+    QCOMPARE(dialog.getNamingRule(), (QList<int>{2, 0}));
+}
+
+void tst_ImportPersonsDlg::refusesWithoutPath_data()
+{
+    QTest::addColumn<QString>("mode");
+    QTest::addColumn<QString>("toolTip");
+    QTest::newRow("person file") << "personInfoChecked"
+                                 << "Please select person info file";
+    QTest::newRow("face directory") << "personFaceChecked"
+                                    << "Please select person faces dir";
+}
+
+void tst_ImportPersonsDlg::refusesWithoutPath()
+{
+    QFETCH(QString, mode);
+    ImportPersonsDlg dialog(nullptr);
+    dialog.show();
+    click(dialog, qPrintable(mode));
+    click(dialog, "importBt");
+    QTEST(QToolTip::text(), "toolTip");
+    QVERIFY(dialog.isVisible());
+    QToolTip::hideText();
+}
+
+void tst_ImportPersonsDlg::refusesWithoutRule()
+{
+    ImportPersonsDlg dialog(nullptr);
+    dialog.show();
+    ModalDriver driver;
+    click(dialog, "personFaceChecked");
+    driver.expect(answer(m_directory.path()));
+    click(dialog, "filePath");
+    for (const char* box : {"serialNumChecked", "personNameChecked", "sexChecked"})
+        click(dialog, box);
+    click(dialog, "importBt");
+    QCOMPARE(QToolTip::text(), QString("Please set naming rules"));
+    QVERIFY(dialog.isVisible());
+    click(dialog, "sexChecked");
+    click(dialog, "importBt");
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+}
+
+void tst_ImportPersonsDlg::acceptsAndRejects()
+{
+    const QString file = transferFiles::write(m_directory.filePath("persons.csv"), "x");
+    ImportPersonsDlg dialog(nullptr);
+    ModalDriver driver;
+    driver.expect([](QWidget* window) { click(*window, "cancelBt"); });
+    QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+    driver.expect([&](QWidget* window) {
+        driver.expect(answer(file));
+        click(*window, "filePath");
+        click(*window, "importBt");
+    });
+    ImportPersonsDlg second(nullptr);
+    QCOMPARE(second.exec(), int(QDialog::Accepted));
+    QCOMPARE(second.getPath(), file);
+    QCOMPARE(driver.pending(), 0);
+}
+
+void tst_ImportPersonsDlg::writesTheTemplate()
+{
+    const QString file = transferFiles::write(m_directory.filePath("template.csv"), QByteArray(5000, 'x'));
+    ImportPersonsDlg dialog(nullptr);
+    dialog.show();
+    QSignalSpy alerts(&SystemAssistant::instance(), &SystemAssistant::signalMessageAlert);
+    ModalDriver driver;
+    QString caption;
+    driver.expect(answer(file, &caption));
+    driver.expect([](QWidget* question) { // the file is there already
+        qobject_cast<QMessageBox*>(question)->button(QMessageBox::Yes)->click();
+    });
+    click(dialog, "downloadTemplate");
+    QCOMPARE(caption, QString("Download Person import template"));
+    QCOMPARE(transferFiles::read(file), transferFiles::read(TRANSFER_TEST_DATA "/template.csv"));
+    QTRY_COMPARE(alerts.count(), 1);
+    QCOMPARE(alerts[0], (QVariantList{"Success", "Download import person template finished"}));
+    QVERIFY2(dialog.isVisible() && dialog.getPath().isEmpty(), "the dialog stays as it was");
+}
+
+void tst_ImportPersonsDlg::tellsATemplateThatCannotBeWritten()
+{
+    ImportPersonsDlg dialog(nullptr);
+    dialog.show();
+    QSignalSpy alerts(&SystemAssistant::instance(), &SystemAssistant::signalMessageAlert);
+    ModalDriver driver;
+    driver.expect(answer("/proc/template.csv"));
+    click(dialog, "downloadTemplate");
+    QTRY_COMPARE(alerts.count(), 1);
+    QCOMPARE(alerts[0], (QVariantList{"Error", "Download person import template failed"}));
+}
+
+void tst_ImportPersonsDlg::writesNothingOnCancel()
+{
+    ImportPersonsDlg dialog(nullptr);
+    dialog.show();
+    QSignalSpy alerts(&SystemAssistant::instance(), &SystemAssistant::signalMessageAlert);
+    ModalDriver driver;
+    driver.expect(answer(QString()));
+    click(dialog, "downloadTemplate");
+    QCOMPARE(driver.pending(), 0);
+    QCoreApplication::processEvents();
+    QCOMPARE(alerts.count(), 0);
+}
+
+QTEST_MAIN(tst_ImportPersonsDlg)
+#include "tst_ImportPersonsDlg.moc"
