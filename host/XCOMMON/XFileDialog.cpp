@@ -2,6 +2,7 @@
 
 #include <XCOMMON/XFileDialog.h>
 
+#include <QAbstractItemView>
 #include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
@@ -37,8 +38,13 @@ void XFileDialog::accept()
 {
     auto* edit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     if (acceptMode() == AcceptSave && fileMode() == AnyFile && edit != nullptr &&
-        !QFileInfo(directory(), edit->text()).isDir())
-        edit->setText(withFilterSuffix(edit->text(), selectedNameFilter()));
+        !QFileInfo(directory(), edit->text()).isDir()) {
+        const QString name = withFilterSuffix(edit->text(), selectedNameFilter());
+        // QFileDialog would prefer a file that is still selected in its list to the typed name.
+        if (auto* list = findChild<QAbstractItemView*>(QStringLiteral("listView")))
+            list->clearSelection();
+        edit->setText(name);
+    }
     QFileDialog::accept();
 }
 

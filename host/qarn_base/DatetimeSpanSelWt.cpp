@@ -75,7 +75,7 @@ void DatetimeSpanSelWt::Private::build(DatetimeSpanSelWt* q)
 {
     start = makeField(QStringLiteral("startDateTime"), tr("Start"), q);
     end = makeField(QStringLiteral("endDateTime"), tr("End"), q);
-    reason = new ReasonLabel(q);
+    reason = new ReasonLabel(2, q);
     okBt = makeDialogButton(QStringLiteral("okBt"), tr("Ok"), q);
     makePrimary(okBt);
     cancelBt = makeDialogButton(QStringLiteral("cancelBt"), tr("Cancel"), q);
@@ -182,7 +182,7 @@ void DatetimeSpanSelWt::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.fillRect(rect(), colors::Panel);
-    painter.setPen(colors::Selected);
+    painter.setPen(colors::Border);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 

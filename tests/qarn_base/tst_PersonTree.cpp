@@ -18,6 +18,8 @@ using qarn_data::DataSignals;
 using qarn_data::OrganizationInfo;
 using qarn_data::PersonData;
 
+Q_DECLARE_METATYPE(QTreeWidgetItem*)
+
 class tst_PersonTree : public QObject
 {
     Q_OBJECT
@@ -53,6 +55,7 @@ private:
 
 void tst_PersonTree::init()
 {
+    qRegisterMetaType<QTreeWidgetItem*>();
     m_store = std::make_unique<TestStore>();
     m_root = PersonData::instance().getRootOrganizationId();
     m_tree = std::make_unique<PersonTree>();

@@ -9,6 +9,8 @@ using qarn_base::EditOperWt;
 using qarn_base::TableOperWt;
 using qarn_base::TableWidget;
 
+Q_DECLARE_METATYPE(QTableWidgetItem*)
+
 class NotingOperWt : public EditOperWt
 {
 public:
@@ -46,6 +48,7 @@ private:
 
 void tst_TableWidget::init()
 {
+    qRegisterMetaType<QTableWidgetItem*>();
     m_table = std::make_unique<TableWidget>();
     m_buttons.clear();
     m_table->setColumnCount(2);

@@ -116,6 +116,8 @@ int HostStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
         return 0;
     case SH_ComboBox_Popup: // a list below the field, which keeps to the number of visible items
         return 0;
+    case SH_ItemView_ArrowKeysNavigateIntoChildren: // Left leads from an item to the one above it
+        return 1;
     default:
         return QProxyStyle::styleHint(hint, option, widget, returnData);
     }
