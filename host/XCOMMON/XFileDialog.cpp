@@ -6,12 +6,15 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QScreen>
 
 namespace XCOMMON
 {
 
 namespace
 {
+
+constexpr QSize roomySize(820, 500); // all columns of the list can be seen
 
 QString run(XFileDialog& dialog, QString* selectedFilter)
 {
@@ -32,6 +35,7 @@ XFileDialog::XFileDialog(QWidget* parent, const QString& caption, const QString&
 {
     setObjectName(QStringLiteral("XFileDialog"));
     setOption(DontUseNativeDialog);
+    resize(roomySize.boundedTo(screen()->availableSize()));
 }
 
 void XFileDialog::accept()
