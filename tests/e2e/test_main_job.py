@@ -82,6 +82,7 @@ class MainJob(EndToEnd):
         client.click("resetBt")
         client.click_item("treeWidget", "Visitors")
         client.click("exportPersonsBt")
+        client.click("exportChildren")
         client.widget("exportBt")
         self.picture(client, "export")
         client.click("exportBt")
