@@ -79,14 +79,14 @@ class KilledWithDevice(Killed):
 
     def test_killed_while_synchronising(self):
         client = self.start("--demo")
-        client.click_item("treeWidget", "Visitors")
+        client.click_item("treeWidget", "All Organizations")
         client.click("synchronizeToDevBt")
         entry = client.item("treeWt", "Simulated door")
         client.click_at(entry, (8, entry["height"] / 2))
         client.click("synchronizeBt")
-        client.widget("caption")
         journal = self.store.parent / "device.json"
         client.until(lambda: journal.exists() and journal.stat().st_size > 100000, "some faces on the device")
+        self.assertTrue(client.widgets("caption"), "it still synchronises")
         client.kill()
         client, count = self.restart()
         self.assertEqual(count, 500)
