@@ -57,8 +57,10 @@ void PersonIndex::replace(int position, const StoredRecord& record)
     const Slot old = m_slots.at(position);
     const PersonInfo oldInfo = m_infos.at(position);
     leave(old, oldInfo);
+    // What one record of a person says now, the others will say in a moment.
+    if (m_bySerial.value(oldInfo.serialNum) == old.person)
+        m_bySerial.remove(oldInfo.serialNum);
     m_members.erase(std::lower_bound(m_members.begin(), m_members.end(), Member(old.person, old.record)));
-    leaveSerialNum(old.person, oldInfo.serialNum);
     m_slots[position] = {record.number, record.person, organizationPlace(record.info.organizationId)};
     m_infos[position] = record.info;
     enter(m_slots.at(position), record.info);
