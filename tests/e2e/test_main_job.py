@@ -158,6 +158,10 @@ class MainJob(EndToEnd):
         self.wait_total(client, len(rows) - len(serials))
         self.fetch(client, serials)
         self.wait_total(client, len(rows))
+        client.click_item("pageList", "Devices")
+        client.until(lambda: "Online" in [i["text"] for i in client.items("devicesTable")], "the device is online")
+        self.picture(client, "devices-page")
+        client.click_item("pageList", "Persons")
         client.quit()
 
     def test_first_time(self):
