@@ -78,7 +78,7 @@ void ImportPersonsThread::run()
 
 void ImportPersonsThread::importFile()
 {
-    PersonFileReader reader(m_path, tr("*Serial Num"));
+    PersonFileReader reader(m_path, serialNumTitle());
     if (!reader.open())
         return fail(tr("Failed to open the file containing face information"));
     QStringList fields;

@@ -55,8 +55,7 @@ QList<QStringList> importTemplateRows()
         QT_TRANSLATE_NOOP("qarn_personMgr::ImportPersonsDlg",
                           "4. Hierarchical use / segmentation of the organization"),
     };
-    static const char* const titles[ImportFieldCount] = {
-        QT_TRANSLATE_NOOP("qarn_personMgr::ImportPersonsDlg", "*Serial Num"),
+    static const char* const furtherTitles[ImportFieldCount - 1] = {
         QT_TRANSLATE_NOOP("qarn_personMgr::ImportPersonsDlg", "*Person Name"),
         QT_TRANSLATE_NOOP("qarn_personMgr::ImportPersonsDlg", "*Organization"),
         QT_TRANSLATE_NOOP("qarn_personMgr::ImportPersonsDlg", "*Sex"),
@@ -68,11 +67,16 @@ QList<QStringList> importTemplateRows()
     QList<QStringList> rows;
     for (const char* rule : rules)
         rows.append({templateText(rule)});
-    QStringList header;
-    for (const char* title : titles)
+    QStringList header{serialNumTitle()};
+    for (const char* title : furtherTitles)
         header.append(templateText(title));
     rows.append(header);
     return rows;
+}
+
+QString serialNumTitle()
+{
+    return templateText(QT_TRANSLATE_NOOP("qarn_personMgr::ImportPersonsDlg", "*Serial Num"));
 }
 
 QStringList importFields(const QString& line)

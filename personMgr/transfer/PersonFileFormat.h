@@ -44,6 +44,10 @@ void appendPersonFileLine(QString& text, const QStringList& fields);
 /// each, then the titles of the columns.
 QList<QStringList> importTemplateRows();
 
+/// The first title of the template, by which an import finds the line above the persons: one text for both,
+/// so that a template is understood in every language.
+QString serialNumTitle();
+
 /// The first ImportFieldCount fields of a line; fewer when the line has fewer.
 QStringList importFields(const QString& line);
 

@@ -184,7 +184,7 @@ void tst_ImportRobustness::refusesADirectoryWithoutPermission()
 
 void tst_ImportRobustness::importsFiftyThousandPhotographs()
 {
-    constexpr int count = 50000;
+    constexpr int count = transferFiles::sanitized ? 500 : 50000;
     const QByteArray first = QFile::encodeName(transferFiles::write(path("first"), QByteArray(2000, 'x')));
     for (int i = 0; i < count; ++i)
         QCOMPARE(
@@ -193,7 +193,7 @@ void tst_ImportRobustness::importsFiftyThousandPhotographs()
     ImportPersonsThread thread(m_directory->path(), PersonData::instance().getRootOrganizationId(), {0, 1},
                                nullptr);
     QCOMPARE(ThreadRun(thread).events(),
-             (QStringList{"stored 50000", "result true", importOutcome::finished}));
+             (QStringList{QStringLiteral("stored %1").arg(count), "result true", importOutcome::finished}));
     QCOMPARE(PersonData::instance().getAllPersons(true).count(), count);
 }
 

@@ -2,6 +2,8 @@
 
 #include "transfer/PersonFileFormat.h"
 
+#include <QTranslator>
+
 using namespace qarn_personMgr;
 
 class tst_PersonFileFormat : public QObject
@@ -10,6 +12,7 @@ class tst_PersonFileFormat : public QObject
 private slots:
     void endsEveryLineWithASeparator();
     void writesTheTemplateToTheByte();
+    void findsItsTemplateInEveryLanguage();
     void takesTheFirstEightFields_data();
     void takesTheFirstEightFields();
     void keepsAllowedSerialNumbers_data();
@@ -44,6 +47,23 @@ void tst_PersonFileFormat::writesTheTemplateToTheByte()
     for (const QStringList& row : importTemplateRows())
         appendPersonFileLine(text, row);
     QCOMPARE(text.toUtf8(), transferFiles::read(TRANSFER_TEST_DATA "/template.csv"));
+}
+
+void tst_PersonFileFormat::findsItsTemplateInEveryLanguage()
+{
+    struct Marking : QTranslator {
+        QString translate(const char* context, const char* text, const char*, int) const override
+        {
+            return QString("%1 in %2").arg(text, context);
+        }
+        bool isEmpty() const override { return false; }
+    } language;
+    QVERIFY(QCoreApplication::installTranslator(&language));
+    const QList<QStringList> rows = importTemplateRows();
+    QCOMPARE(rows.last().first(), serialNumTitle());
+    QCOMPARE(serialNumTitle(), QString("*Serial Num in qarn_personMgr::ImportPersonsDlg"));
+    QCOMPARE(rows.first().first(), QString("Rules: in qarn_personMgr::ImportPersonsDlg"));
+    QCoreApplication::removeTranslator(&language);
 }
 
 void tst_PersonFileFormat::takesTheFirstEightFields_data()

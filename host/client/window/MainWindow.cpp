@@ -2,6 +2,7 @@
 
 #include "alerts/AlertHistoryDlg.h"
 #include "alerts/ToastStack.h"
+#include "devices/DevicesPage.h"
 #include "entry/PersonMgrInit.h"
 #include "settings/ClientSettings.h"
 #include "settings/SettingsDlg.h"
@@ -42,6 +43,7 @@ MainWindow::MainWindow(ClientSettings& settings) : m_settings(settings)
     module.moduleInit();
     m_personsPage = module.createPersonMgrForm();
     addPage(tr("Persons"), QStringLiteral("persons"), m_personsPage);
+    addPage(tr("Devices"), QStringLiteral("devices"), new DevicesPage);
 
     m_quitGuard = new QuitGuard(this);
     connect(m_quitGuard, &QuitGuard::signalMayQuit, this, &QWidget::close);
