@@ -37,16 +37,16 @@ ToolsCollection::ToolsCollection(QObject* parent) : QObject(parent) {}
 
 QString ToolsCollection::formatLegalFileName(QString& name, const QString& replacement)
 {
-    int length = name.size();
-    while (length > 0 && isForbiddenAtEnd(name.at(length - 1)))
-        --length;
     QString legal;
-    for (int i = 0; i < name.size(); ++i) {
-        if (i >= length || isForbidden(name.at(i)))
-            legal += replacement;
-        else
-            legal += name.at(i);
-    }
+    for (const QChar character : name)
+        legal += isForbidden(character) ? replacement : QString(character);
+    int length = legal.size();
+    while (length > 0 && isForbiddenAtEnd(legal.at(length - 1)))
+        --length;
+    const int dropped = legal.size() - length;
+    legal.truncate(length);
+    if (!replacement.isEmpty() && !isForbiddenAtEnd(replacement.back()))
+        legal += replacement.repeated(dropped);
     name = legal;
     return name;
 }

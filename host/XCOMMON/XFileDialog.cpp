@@ -2,15 +2,19 @@
 
 #include <XCOMMON/XFileDialog.h>
 
+#include <QAbstractItemView>
 #include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QScreen>
 
 namespace XCOMMON
 {
 
 namespace
 {
+
+constexpr QSize roomySize(820, 500); // all columns of the list can be seen
 
 QString run(XFileDialog& dialog, QString* selectedFilter)
 {
@@ -31,14 +35,20 @@ XFileDialog::XFileDialog(QWidget* parent, const QString& caption, const QString&
 {
     setObjectName(QStringLiteral("XFileDialog"));
     setOption(DontUseNativeDialog);
+    resize(roomySize.boundedTo(screen()->availableSize()));
 }
 
 void XFileDialog::accept()
 {
     auto* edit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     if (acceptMode() == AcceptSave && fileMode() == AnyFile && edit != nullptr &&
-        !QFileInfo(directory(), edit->text()).isDir())
-        edit->setText(withFilterSuffix(edit->text(), selectedNameFilter()));
+        !QFileInfo(directory(), edit->text()).isDir()) {
+        const QString name = withFilterSuffix(edit->text(), selectedNameFilter());
+        // QFileDialog would prefer a file that is still selected in its list to the typed name.
+        if (auto* list = findChild<QAbstractItemView*>(QStringLiteral("listView")))
+            list->clearSelection();
+        edit->setText(name);
+    }
     QFileDialog::accept();
 }
 

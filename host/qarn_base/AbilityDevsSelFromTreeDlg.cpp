@@ -51,7 +51,7 @@ void AbilityDevsSelFromTreeDlg::build(const QString& prompt, const QString& acce
     p->tree = new AbilityDevsTree(this);
     p->tree->setMinimumSize(TreeWidth, LeastTreeHeight);
     label->setBuddy(p->tree);
-    p->reason = new ReasonLabel(this);
+    p->reason = new ReasonLabel(1, this);
     p->okBt = makeDialogButton(QStringLiteral("okBt"), acceptText, this);
     makePrimary(p->okBt);
     p->cancelBt = makeDialogButton(QStringLiteral("cancelBt"), tr("Cancel"), this);

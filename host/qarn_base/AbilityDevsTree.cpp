@@ -123,18 +123,26 @@ void AbilityDevsTree::addDevice(const Device& device, const QSet<ChannelKey>& ch
         return;
     TreeItem* item = p->makeDevice(device);
     item->addChildren(channels);
-    if (offline)
-        showOffline(*item);
+    showReachability(*item, offline);
     addTreeItem(item, nullptr);
     item->setExpanded(expanded);
 }
 
-void AbilityDevsTree::showOffline(TreeItem& device)
+void AbilityDevsTree::showReachability(TreeItem& device, bool offline)
 {
-    device.setName(tr("%1 (offline)").arg(device.getName()));
-    device.setForeground(0, colors::QuietText);
+    const auto image = [offline](const QString& name) {
+        const QString suffix = offline ? QStringLiteral("_offline") : QString();
+        return QIcon(QStringLiteral(":/images/images/%1%2.png").arg(name, suffix));
+    };
+    device.setIcon(0, image(QStringLiteral("device")));
     for (int i = 0; i < device.childCount(); ++i)
-        device.child(i)->setForeground(0, colors::QuietText);
+        device.child(i)->setIcon(0, image(QStringLiteral("channel")));
+    if (!offline)
+        return;
+    device.setName(tr("%1 (offline)").arg(device.getName()));
+    device.setForeground(0, colors::FaintText);
+    for (int i = 0; i < device.childCount(); ++i)
+        device.child(i)->setForeground(0, colors::FaintText);
 }
 
 TreeItem* AbilityDevsTree::Private::makeDevice(const Device& device) const

@@ -1,10 +1,7 @@
 #include <qarn_base/CommonDialog.h>
 
-#include "HostColors.h"
 #include "SmallScreen.h"
 #include "TitleBar.h"
-
-#include <QPainter>
 
 namespace qarn_base
 {
@@ -70,15 +67,8 @@ void CommonDialog::quitSystem()
 void CommonDialog::resizeEvent(QResizeEvent* event)
 {
     XCOMMON::MoveableDialog::resizeEvent(event);
-    d->titleBar->setGeometry(0, 0, width(), TitleBarHeight);
-}
-
-void CommonDialog::paintEvent(QPaintEvent* event)
-{
-    XCOMMON::MoveableDialog::paintEvent(event);
-    QPainter painter(this);
-    painter.setPen(colors::Line);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    // The dialog's border stays free.
+    d->titleBar->setGeometry(1, 1, width() - 2, TitleBarHeight - 1);
 }
 
 } // namespace qarn_base

@@ -48,6 +48,8 @@ QDateTimeEdit* makeField(const QString& name, const QString& accessibleName, QWi
     auto* field = new QDateTimeEdit(parent);
     field->setObjectName(name);
     field->setAccessibleName(accessibleName);
+    // In local time the field would put back what is typed of an hour that the clock change skips.
+    field->setTimeSpec(Qt::UTC);
     field->setDisplayFormat(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     field->setCalendarPopup(true);
     field->setFixedSize(FieldWidth, FieldHeight);
@@ -75,7 +77,7 @@ void DatetimeSpanSelWt::Private::build(DatetimeSpanSelWt* q)
 {
     start = makeField(QStringLiteral("startDateTime"), tr("Start"), q);
     end = makeField(QStringLiteral("endDateTime"), tr("End"), q);
-    reason = new ReasonLabel(q);
+    reason = new ReasonLabel(2, q);
     okBt = makeDialogButton(QStringLiteral("okBt"), tr("Ok"), q);
     makePrimary(okBt);
     cancelBt = makeDialogButton(QStringLiteral("cancelBt"), tr("Cancel"), q);
@@ -103,8 +105,8 @@ void DatetimeSpanSelWt::setInitDateTime(const QDateTime& start, const QDateTime&
     const QDateTime now = QDateTime::currentDateTime();
     d->originalStart = start.isValid() ? start : now;
     d->originalEnd = end.isValid() ? end : d->originalStart;
-    d->start->setDateTime(d->originalStart.toLocalTime());
-    d->end->setDateTime(d->originalEnd.toLocalTime());
+    d->start->setDateTime(wallClock(d->originalStart));
+    d->end->setDateTime(wallClock(d->originalEnd));
     d->reason->hideReason();
 }
 
@@ -182,7 +184,7 @@ void DatetimeSpanSelWt::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.fillRect(rect(), colors::Panel);
-    painter.setPen(colors::Selected);
+    painter.setPen(colors::Border);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 

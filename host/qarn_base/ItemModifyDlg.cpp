@@ -1,6 +1,7 @@
 #include <qarn_base/ItemModifyDlg.h>
 
 #include "DialogButtons.h"
+#include "PlainToolTip.h"
 #include "ReasonLabel.h"
 
 #include <XCOMMON/XLineEdit.h>
@@ -17,6 +18,7 @@ namespace
 {
 constexpr int FieldHeight = 28; ///< pixels
 constexpr int DialogWidth = 420;
+constexpr int ToolTipRise = 60;
 } // namespace
 
 struct ItemModifyDlg::Private {
@@ -57,7 +59,7 @@ void ItemModifyDlg::Private::build(ItemModifyDlg* q)
     name->setFixedHeight(FieldHeight);
     auto* label = new QLabel(tr("Name"), q);
     label->setBuddy(name);
-    reason = new ReasonLabel(q);
+    reason = new ReasonLabel(2, q);
 
     addContinuouslyBt = makeDialogButton(QStringLiteral("addContinuouslyBt"), tr("Add continuously"), q);
     okBt = makeDialogButton(QStringLiteral("okBt"), tr("Ok"), q);
@@ -112,7 +114,7 @@ QString ItemModifyDlg::Private::refusal(const QString& trimmed) const
     if (trimmed.isEmpty())
         return tr("The name must not be blank.");
     if (nameCheck && nameCheck(trimmed, id))
-        return tr("The name \"%1\" is already taken here. Choose another one.").arg(trimmed);
+        return tr("\"%1\" is already taken. Choose another name.").arg(trimmed);
     return QString();
 }
 
@@ -122,7 +124,8 @@ bool ItemModifyDlg::Private::check() const
     if (why.isEmpty())
         return true;
     reason->showReason(why);
-    QToolTip::showText(name->mapToGlobal(QPoint(0, 0)), why.toHtmlEscaped(), name);
+    // Above the field, so that neither the name nor the reason below it is covered.
+    QToolTip::showText(name->mapToGlobal(QPoint(0, -ToolTipRise)), plainToolTip(why), name);
     name->setFocus();
     name->selectAll();
     return false;

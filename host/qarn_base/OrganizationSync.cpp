@@ -13,6 +13,12 @@ namespace qarn_base
 
 using qarn_data::OrganizationInfo;
 
+OrganizationSync::OrganizationSync(CommonTree& tree)
+    : m_tree(tree),
+      m_icon(QStringLiteral(":/images/images/organization.png"))
+{
+}
+
 void OrganizationSync::apply(const QList<OrganizationInfo>& organizations)
 {
     QSet<QString> ids;
@@ -31,7 +37,9 @@ bool OrganizationSync::apply(const OrganizationInfo& organization)
     if (parent == nullptr && !organization.parentId.isEmpty())
         return false;
     if (item == nullptr) {
-        m_tree.addTreeItem(new TreeItem(organization.id, organization.parentId, organization.name), parent);
+        auto* added = new TreeItem(organization.id, organization.parentId, organization.name);
+        added->setIcon(0, m_icon);
+        m_tree.addTreeItem(added, parent);
         return true;
     }
     if (item->getName() != organization.name)

@@ -2,6 +2,7 @@
 
 #include <qarn_data/OrganizationInfo.h>
 
+#include <QIcon>
 #include <QList>
 #include <QSet>
 #include <QString>
@@ -16,7 +17,7 @@ class TreeItem;
 class OrganizationSync
 {
 public:
-    explicit OrganizationSync(CommonTree& tree) : m_tree(tree) {}
+    explicit OrganizationSync(CommonTree& tree);
 
     /// The whole tree; organizations come parents before children, siblings in display order.
     void apply(const QList<qarn_data::OrganizationInfo>& organizations);
@@ -29,6 +30,7 @@ private:
     void reorder(const QList<qarn_data::OrganizationInfo>& organizations);
 
     CommonTree& m_tree;
+    const QIcon m_icon;
 };
 
 } // namespace qarn_base

@@ -8,6 +8,7 @@
 #include <XCOMMON/XPushButton.h>
 
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
 
 namespace qarn_base
@@ -19,6 +20,7 @@ constexpr int PageSizes[] = {20, 50, 100, 200};
 constexpr int FirstPageSize = 50;
 constexpr int ControlHeight = 28; ///< pixels
 constexpr int ArrowWidth = 32;
+constexpr int IconSide = 16;
 } // namespace
 
 struct PageEditWt::Private {
@@ -41,11 +43,15 @@ struct PageEditWt::Private {
 namespace
 {
 
-XCOMMON::XPushButton* makeArrow(const QString& name, const QString& sign, const QString& tip, QWidget* parent)
+XCOMMON::XPushButton* makeArrow(const QString& name, const QString& image, const QString& tip,
+                                QWidget* parent)
 {
     auto* button = new XCOMMON::XPushButton(parent);
     button->setObjectName(name);
-    button->setText(sign);
+    QIcon icon(QStringLiteral(":/images/images/%1_n.png").arg(image));
+    icon.addFile(QStringLiteral(":/images/images/%1_d.png").arg(image), QSize(), QIcon::Disabled);
+    button->setIcon(icon);
+    button->setIconSize(QSize(IconSide, IconSide));
     button->setToolTip(tip);
     button->setAccessibleName(tip);
     button->setFixedSize(ArrowWidth, ControlHeight);
@@ -83,15 +89,15 @@ PageEditWt::~PageEditWt() = default;
 
 void PageEditWt::Private::build(PageEditWt* q)
 {
-    firstBt = makeArrow(QStringLiteral("firstBt"), QStringLiteral("\u00ab"), tr("first page"), q);
-    prevBt = makeArrow(QStringLiteral("prevBt"), QStringLiteral("\u2039"), tr("previous page"), q);
+    firstBt = makeArrow(QStringLiteral("firstBt"), QStringLiteral("first_page"), tr("first page"), q);
+    prevBt = makeArrow(QStringLiteral("prevBt"), QStringLiteral("prev_page"), tr("previous page"), q);
     curPage = new PageSpinBox(q);
     curPage->setObjectName(QStringLiteral("curPage"));
     curPage->setAccessibleName(tr("page"));
     curPage->setFixedSize(64, ControlHeight);
     pageCount = makeLabel(QStringLiteral("pageCount"), tr("number of pages"), q);
-    nextBt = makeArrow(QStringLiteral("nextBt"), QStringLiteral("\u203a"), tr("next page"), q);
-    lastBt = makeArrow(QStringLiteral("lastBt"), QStringLiteral("\u00bb"), tr("last page"), q);
+    nextBt = makeArrow(QStringLiteral("nextBt"), QStringLiteral("next_page"), tr("next page"), q);
+    lastBt = makeArrow(QStringLiteral("lastBt"), QStringLiteral("last_page"), tr("last page"), q);
     pageSize = new ComboBox(q);
     pageSize->setObjectName(QStringLiteral("pageSize"));
     pageSize->setAccessibleName(tr("rows a page"));

@@ -7,13 +7,14 @@
 namespace qarn_base
 {
 
-ReasonLabel::ReasonLabel(QWidget* parent) : QLabel(parent)
+ReasonLabel::ReasonLabel(int lines, QWidget* parent) : QLabel(parent)
 {
     setObjectName(QStringLiteral("reason"));
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
     setStyleSheet(QStringLiteral("color:%1;").arg(colors::ErrorText.name()));
-    setMinimumHeight(fontMetrics().height());
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    setMinimumHeight(lines * fontMetrics().lineSpacing());
 }
 
 void ReasonLabel::showReason(const QString& reason)

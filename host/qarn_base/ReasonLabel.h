@@ -5,13 +5,13 @@
 namespace qarn_base
 {
 
-/// Line under a field that tells why the input was refused. Keeps its room while it is empty, so that
+/// Text under a field that tells why the input was refused. Keeps its room while it is empty, so that
 /// nothing jumps.
 class ReasonLabel : public QLabel
 {
     Q_OBJECT
 public:
-    explicit ReasonLabel(QWidget* parent);
+    ReasonLabel(int lines, QWidget* parent);
 
     void showReason(const QString& reason);
     void hideReason();

@@ -14,6 +14,8 @@ SearchBox::SearchBox(QWidget* parent) : QWidget(parent), m_searchLineEt(new XCOM
     m_searchLineEt->setPlaceholderText(tr("Search"));
     m_searchLineEt->setAccessibleName(tr("Search"));
     m_searchLineEt->setClearButtonEnabled(true);
+    m_searchLineEt->addAction(QIcon(QStringLiteral(":/images/images/search.png")),
+                              QLineEdit::LeadingPosition);
     m_searchLineEt->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     m_searchLineEt->installEventFilter(this);
     setFocusProxy(m_searchLineEt);

@@ -2,6 +2,8 @@
 
 #include "FieldClick.h"
 
+#include <QAction>
+
 namespace qarn_base
 {
 
@@ -9,6 +11,8 @@ SelDirLineEt::SelDirLineEt(QWidget* parent) : XCOMMON::XLineEdit(parent)
 {
     setReadOnly(true);
     setCursor(Qt::PointingHandCursor);
+    const QAction* icon = addAction(QIcon(QStringLiteral(":/images/images/folder.png")), TrailingPosition);
+    connect(icon, &QAction::triggered, this, &SelDirLineEt::signalClicked);
     setAccessibleDescription(tr("Press Return to choose a path"));
 }
 

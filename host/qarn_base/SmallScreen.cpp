@@ -59,6 +59,8 @@ void fitToScreen(QDialog& dialog, int fixedTop)
     scrollArea->verticalScrollBar()->setProperty("common_scrollBar_style3", true);
     scrollArea->horizontalScrollBar()->setProperty("common_scrollBar_style3", true);
     scrollArea->setWidget(contents);
+    scrollArea->viewport()->setAutoFillBackground(false); // the dialog's own ground shines through
+    contents->setAutoFillBackground(false);
     auto* layout = new QVBoxLayout(&dialog);
     layout->setContentsMargins(1, fixedTop, 1, 1);
     layout->addWidget(scrollArea);

@@ -2,6 +2,8 @@
 
 #include "HostColors.h"
 
+#include <QPainter>
+
 namespace qarn_base
 {
 
@@ -12,12 +14,15 @@ TableOperWt::TableOperWt(QWidget* parent) : QWidget(parent)
 
 void TableOperWt::setWtStyle(WidgetStyle style)
 {
+    m_style = style;
+    update();
+}
+
+void TableOperWt::paintEvent(QPaintEvent*)
+{
     // In the normal state the row shines through, whatever its own colour is.
-    setAutoFillBackground(style != NormalStyle);
-    QPalette palette;
-    if (style != NormalStyle)
-        palette.setColor(QPalette::Window, style == HoverStyle ? colors::Hover : colors::Selected);
-    setPalette(palette);
+    if (m_style != NormalStyle)
+        QPainter(this).fillRect(rect(), m_style == HoverStyle ? colors::Hover : colors::Selected);
 }
 
 } // namespace qarn_base

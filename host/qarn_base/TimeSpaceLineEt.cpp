@@ -2,6 +2,8 @@
 
 #include "FieldClick.h"
 
+#include <QAction>
+
 namespace qarn_base
 {
 
@@ -9,6 +11,8 @@ TimeSpaceLineEt::TimeSpaceLineEt(QWidget* parent) : XCOMMON::XLineEdit(parent)
 {
     setReadOnly(true);
     setCursor(Qt::PointingHandCursor);
+    const QAction* icon = addAction(QIcon(QStringLiteral(":/images/images/calendar.png")), TrailingPosition);
+    connect(icon, &QAction::triggered, this, &TimeSpaceLineEt::signalClicked);
     setAccessibleDescription(tr("Press Return to change the period"));
 }
 

@@ -1,6 +1,7 @@
 #include "TitleBar.h"
 
 #include "HostColors.h"
+#include "PlainToolTip.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -90,7 +91,7 @@ TitleBar::TitleBar(bool showMinMax, QWidget* parent)
 void TitleBar::setTitle(const QString& title)
 {
     m_title->setText(title);
-    m_title->setToolTip(title);
+    m_title->setToolTip(plainToolTip(title));
 }
 
 void TitleBar::goLastInTabOrder()

@@ -1,5 +1,7 @@
 #include <qarn_base/TreeItem.h>
 
+#include "PlainToolTip.h"
+
 namespace qarn_base
 {
 
@@ -30,7 +32,7 @@ QString TreeItem::getParentId() const
 void TreeItem::setName(const QString& name)
 {
     setText(0, name);
-    setToolTip(0, name);
+    setToolTip(0, plainToolTip(name));
 }
 
 void TreeItem::setParentId(const QString& parentId)

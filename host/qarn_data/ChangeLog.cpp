@@ -18,15 +18,15 @@ bool ChangeLog::append(const Change& change)
 bool ChangeLog::readAfter(qint64 number, QVector<Change>* changes)
 {
     return m_store.forEachRow(
-        QStringLiteral("SELECT number, kind, subject FROM change_log WHERE number > ? ORDER BY number"),
-        {number}, [changes](const Row& row) {
+        "SELECT number, kind, subject FROM change_log WHERE number > ? ORDER BY number", {number},
+        [changes](const Row& row) {
             changes->append({row.number(0), ChangeKind(int(row.number(1))), row.text(2)});
         });
 }
 
 bool ChangeLog::lastNumber(qint64* number)
 {
-    return m_store.forEachRow(QStringLiteral("SELECT max(number) FROM change_log"), {},
+    return m_store.forEachRow("SELECT max(number) FROM change_log", {},
                               [number](const Row& row) { *number = row.number(0); });
 }
 

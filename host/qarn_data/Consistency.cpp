@@ -9,7 +9,7 @@ namespace qarn_data
 namespace
 {
 
-qint64 countOf(SqlStore& store, const QString& sql)
+qint64 countOf(SqlStore& store, const char* sql)
 {
     qint64 count = -1;
     store.forEachRow(sql, {}, [&count](const Row& row) { count = row.number(0); });
@@ -64,11 +64,11 @@ QString findInconsistency(SqlStore& store, const RegisterState& state)
     QString finding = store.selfCheck();
     if (!finding.isEmpty())
         return finding;
-    if (countOf(store, QStringLiteral("SELECT count(*) FROM persons WHERE number NOT IN"
-                                      " (SELECT person FROM records)")) != 0)
+    if (countOf(store, "SELECT count(*) FROM persons WHERE number NOT IN"
+                       " (SELECT person FROM records)") != 0)
         return QStringLiteral("a person has no record");
-    if (countOf(store, QStringLiteral("SELECT count(*) FROM face_images WHERE hash NOT IN"
-                                      " (SELECT hash FROM person_faces)")) != 0)
+    if (countOf(store, "SELECT count(*) FROM face_images WHERE hash NOT IN"
+                       " (SELECT hash FROM person_faces)") != 0)
         return QStringLiteral("a face image belongs to nobody");
     RegisterState stored;
     if (!stored.load(store))

@@ -7,8 +7,8 @@ namespace qarn_data
 
 bool CustomFieldTable::read(QStringList* names, QSet<QString>* removed)
 {
-    return m_store.forEachRow(QStringLiteral("SELECT name, position FROM custom_fields ORDER BY position"),
-                              {}, [=](const Row& row) {
+    return m_store.forEachRow("SELECT name, position FROM custom_fields ORDER BY position", {},
+                              [=](const Row& row) {
                                   if (row.isNull(1))
                                       removed->insert(row.text(0));
                                   else

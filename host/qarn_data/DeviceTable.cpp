@@ -25,11 +25,11 @@ bool DeviceTable::readAll(QList<StoredDevice>* devices)
         stored.device.channels = channels.value(stored.device.id);
         devices->append(stored);
     };
-    return m_store.forEachRow(QStringLiteral("SELECT device, number, name, abilities FROM device_channels"
-                                             " ORDER BY device, position"),
+    return m_store.forEachRow("SELECT device, number, name, abilities FROM device_channels"
+                              " ORDER BY device, position",
                               {}, takeChannel) &&
-           m_store.forEachRow(QStringLiteral("SELECT id, name, address, token, certificate FROM devices"
-                                             " ORDER BY number"),
+           m_store.forEachRow("SELECT id, name, address, token, certificate FROM devices"
+                              " ORDER BY number",
                               {}, takeDevice);
 }
 

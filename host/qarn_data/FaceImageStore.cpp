@@ -27,7 +27,7 @@ QByteArray FaceImageStore::image(const QByteArray& key)
     if (known != m_read.constEnd())
         return *known;
     QByteArray bytes;
-    m_store.forEachRow(QStringLiteral("SELECT bytes FROM face_images WHERE hash = ?"), {key},
+    m_store.forEachRow("SELECT bytes FROM face_images WHERE hash = ?", {key},
                        [&bytes](const Row& row) { bytes = row.bytes(0); });
     m_read.insert(key, bytes);
     return bytes;

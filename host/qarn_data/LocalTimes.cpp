@@ -52,17 +52,22 @@ qint64 dayOf(qint64 msecs)
 
 QDateTime LocalTimes::fromMSecs(qint64 msecs)
 {
-    const qint64 day = dayOf(msecs);
-    const qint64 startMs = day * dayMs;
-    auto known = m_utcDays.constFind(day);
-    if (known == m_utcDays.constEnd()) {
-        if (m_utcDays.size() >= mostDays)
-            return QDateTime::fromMSecsSinceEpoch(msecs);
-        const QDateTime start = QDateTime::fromMSecsSinceEpoch(startMs);
-        const QDateTime end = QDateTime::fromMSecsSinceEpoch(startMs + dayMs - 1);
-        known = m_utcDays.insert(day, {start, isUniform(start, end, dayMs - 1)});
+    const qint64 number = dayOf(msecs);
+    const qint64 startMs = number * dayMs;
+    const auto known = m_utcDays.find(number);
+    if (known == m_utcDays.end()) {
+        if (m_utcDays.size() < mostDays)
+            m_utcDays.insert(number, {});
+        return QDateTime::fromMSecsSinceEpoch(msecs);
     }
-    return known->isUniform ? shift(known->start, msecs - startMs) : QDateTime::fromMSecsSinceEpoch(msecs);
+    UtcDay& day = *known;
+    if (day.kind == Kind::SeenOnce) {
+        day.start = QDateTime::fromMSecsSinceEpoch(startMs);
+        const QDateTime end = QDateTime::fromMSecsSinceEpoch(startMs + dayMs - 1);
+        day.kind = isUniform(day.start, end, dayMs - 1) ? Kind::Uniform : Kind::Uneven;
+    }
+    return day.kind == Kind::Uniform ? shift(day.start, msecs - startMs)
+                                     : QDateTime::fromMSecsSinceEpoch(msecs);
 }
 
 qint64 LocalTimes::toMSecs(const QDateTime& time)
@@ -70,15 +75,20 @@ qint64 LocalTimes::toMSecs(const QDateTime& time)
     if (time.timeSpec() != Qt::LocalTime)
         return time.toMSecsSinceEpoch();
     const QDate date = time.date();
-    auto known = m_localDays.constFind(date.toJulianDay());
-    if (known == m_localDays.constEnd()) {
-        if (m_localDays.size() >= mostDays)
-            return time.toMSecsSinceEpoch();
-        const qint64 start = QDateTime(date, QTime(0, 0)).toMSecsSinceEpoch();
-        const qint64 end = QDateTime(date, QTime(23, 59, 59, 999)).toMSecsSinceEpoch();
-        known = m_localDays.insert(date.toJulianDay(), {start, end - start == dayMs - 1});
+    const auto known = m_localDays.find(date.toJulianDay());
+    if (known == m_localDays.end()) {
+        if (m_localDays.size() < mostDays)
+            m_localDays.insert(date.toJulianDay(), {});
+        return time.toMSecsSinceEpoch();
     }
-    return known->isUniform ? known->start + time.time().msecsSinceStartOfDay() : time.toMSecsSinceEpoch();
+    LocalDay& day = *known;
+    if (day.kind == Kind::SeenOnce) {
+        day.start = QDateTime(date, QTime(0, 0)).toMSecsSinceEpoch();
+        const qint64 end = QDateTime(date, QTime(23, 59, 59, 999)).toMSecsSinceEpoch();
+        day.kind = end - day.start == dayMs - 1 ? Kind::Uniform : Kind::Uneven;
+    }
+    return day.kind == Kind::Uniform ? day.start + time.time().msecsSinceStartOfDay()
+                                     : time.toMSecsSinceEpoch();
 }
 
 } // namespace qarn_data

@@ -8,34 +8,30 @@ namespace qarn_data
 namespace
 {
 
-QString select(const char* condition)
-{
-    return QStringLiteral("SELECT o.number, o.id, p.id, o.name FROM organizations o"
-                          " LEFT JOIN organizations p ON p.number = o.parent %1 ORDER BY o.number")
-        .arg(QLatin1String(condition));
-}
-
 StoredOrganization organizationIn(const Row& row)
 {
     return {row.number(0), {row.text(1), row.text(2), row.text(3)}};
 }
 
-QVariant parentValue(qint64 parent)
+std::optional<qint64> parentValue(qint64 parent)
 {
-    return parent == 0 ? QVariant(QVariant::LongLong) : QVariant(parent);
+    return parent == 0 ? std::nullopt : std::optional<qint64>(parent);
 }
 
 } // namespace
 
 bool OrganizationTable::readAll(const std::function<void(const StoredOrganization&)>& handler)
 {
-    return m_store.forEachRow(select(""), {}, [&](const Row& row) { handler(organizationIn(row)); });
+    return m_store.forEachRow("SELECT o.number, o.id, p.id, o.name FROM organizations o"
+                              " LEFT JOIN organizations p ON p.number = o.parent ORDER BY o.number",
+                              {}, [&](const Row& row) { handler(organizationIn(row)); });
 }
 
 bool OrganizationTable::readOne(qint64 number, StoredOrganization* organization)
 {
-    return m_store.forEachRow(select("WHERE o.number = ?"), {number},
-                              [&](const Row& row) { *organization = organizationIn(row); });
+    return m_store.forEachRow("SELECT o.number, o.id, p.id, o.name FROM organizations o"
+                              " LEFT JOIN organizations p ON p.number = o.parent WHERE o.number = ?",
+                              {number}, [&](const Row& row) { *organization = organizationIn(row); });
 }
 
 bool OrganizationTable::insert(const StoredOrganization& organization, qint64 parent)

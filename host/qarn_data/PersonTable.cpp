@@ -34,32 +34,37 @@ enum Column {
 
 constexpr int faceSlots = 3;
 
-QString recordsWhere(const char* condition)
+QByteArray recordsWhere(const char* condition)
 {
-    return QStringLiteral("SELECT r.number, r.person, r.id, r.organization, p.serial_num, p.name, p.sex,"
-                          " p.email, p.phone_num, p.valid_start, p.valid_end, p.remarks, p.birth_date,"
-                          " p.identity_type, p.identity_id, p.job, p.employ_date, p.address"
-                          " FROM records r JOIN persons p ON p.number = r.person %1 ORDER BY r.number")
-        .arg(QLatin1String(condition));
+    return QByteArray("SELECT r.number, r.person, r.id, r.organization, p.serial_num, p.name, p.sex,"
+                      " p.email, p.phone_num, p.valid_start, p.valid_end, p.remarks, p.birth_date,"
+                      " p.identity_type, p.identity_id, p.job, p.employ_date, p.address"
+                      " FROM records r JOIN persons p ON p.number = r.person ") +
+           condition + " ORDER BY r.number";
 }
 
-QString valuesWhere(const char* condition)
+QByteArray valuesWhere(const char* condition)
 {
-    return QStringLiteral("SELECT person, field, value FROM custom_values %1 ORDER BY person, field")
-        .arg(QLatin1String(condition));
+    return QByteArray("SELECT person, field, value FROM custom_values ") + condition +
+           " ORDER BY person, field";
 }
 
-QString facesWhere(const char* condition)
+QByteArray facesWhere(const char* condition)
 {
-    return QStringLiteral("SELECT person, slot, hash FROM person_faces %1 ORDER BY person, slot")
-        .arg(QLatin1String(condition));
+    return QByteArray("SELECT person, slot, hash FROM person_faces ") + condition + " ORDER BY person, slot";
 }
 
 const char* const inRange = "WHERE person IN (SELECT person FROM records WHERE number BETWEEN ? AND ?)";
 
-QVariant toStored(const QDate& date)
+std::optional<qint64> toStored(const QDate& date)
 {
-    return date.isValid() ? QVariant(date.toJulianDay()) : QVariant(QVariant::LongLong);
+    return date.isValid() ? std::optional<qint64>(date.toJulianDay()) : std::nullopt;
+}
+
+// To QDateTime an invalid time is equal to the start of 1970.
+bool sameTime(const QDateTime& a, const QDateTime& b)
+{
+    return a.isValid() == b.isValid() && a == b;
 }
 
 QDate dateAt(const Row& row, int column)
@@ -72,9 +77,9 @@ using Faces = std::array<QByteArray, faceSlots>;
 } // namespace
 
 struct PersonTable::Selection {
-    QString records;
-    QString values;
-    QString faces;
+    QByteArray records;
+    QByteArray values;
+    QByteArray faces;
 };
 
 PersonTable::PersonTable(SqlStore& store, const OrganizationIndex& organizations)
@@ -104,7 +109,7 @@ bool PersonTable::readPerson(qint64 person, const RecordHandler& handler)
     return read(one, {person}, handler);
 }
 
-bool PersonTable::read(const Selection& selection, const QVariantList& values, const RecordHandler& handler)
+bool PersonTable::read(const Selection& selection, const Values& values, const RecordHandler& handler)
 {
     QHash<qint64, QMap<QString, QString>> fields;
     const auto takeField = [&fields](const Row& row) {
@@ -150,20 +155,20 @@ bool PersonTable::read(const Selection& selection, const QVariantList& values, c
         }
         handler(record);
     };
-    return m_store.forEachRow(selection.values, values, takeField) &&
-           m_store.forEachRow(selection.faces, values, takeFace) &&
-           m_store.forEachRow(selection.records, values, takeRecord);
+    return m_store.forEachRow(selection.values.constData(), values, takeField) &&
+           m_store.forEachRow(selection.faces.constData(), values, takeFace) &&
+           m_store.forEachRow(selection.records.constData(), values, takeRecord);
 }
 
-QVariant PersonTable::stored(const QDateTime& time)
+std::optional<qint64> PersonTable::stored(const QDateTime& time)
 {
-    return time.isValid() ? QVariant(m_times.toMSecs(time)) : QVariant(QVariant::LongLong);
+    return time.isValid() ? std::optional<qint64>(m_times.toMSecs(time)) : std::nullopt;
 }
 
-QVariant PersonTable::place(const QString& organizationId) const
+std::optional<qint64> PersonTable::place(const QString& organizationId) const
 {
     const qint64 number = m_organizations.number(organizationId);
-    return number == 0 ? QVariant(QVariant::LongLong) : QVariant(number);
+    return number == 0 ? std::nullopt : std::optional<qint64>(number);
 }
 
 bool PersonTable::insertPerson(qint64 person, const PersonInfo& info)
@@ -201,12 +206,12 @@ bool PersonTable::updatePerson(qint64 person, const PersonInfo& old, const Perso
 {
     const bool ok =
         m_store.run("UPDATE persons SET serial_num = ?, name = ?, sex = ?, email = ?, phone_num = ?,"
-                    " valid_start = ?, valid_end = ?, remarks = ?, birth_date = ?, identity_type = ?,"
-                    " identity_id = ?, job = ?, employ_date = ?, address = ? WHERE number = ?",
-                    info.serialNum, info.name, info.sex, info.email, info.phoneNum,
-                    stored(info.validStartTime), stored(info.validEndTime), info.remarks,
+                    " remarks = ?, birth_date = ?, identity_type = ?, identity_id = ?, job = ?,"
+                    " employ_date = ?, address = ? WHERE number = ?",
+                    info.serialNum, info.name, info.sex, info.email, info.phoneNum, info.remarks,
                     toStored(info.birthDate), info.identityType, info.identityId, info.job,
                     toStored(info.employDate), info.address, person) &&
+        updateValidity(person, old, info) &&
         (old.faceImage1 == info.faceImage1 || putFace(person, 1, info.faceImage1)) &&
         (old.faceImage2 == info.faceImage2 || putFace(person, 2, info.faceImage2)) &&
         (old.faceImage3 == info.faceImage3 || putFace(person, 3, info.faceImage3));
@@ -218,6 +223,15 @@ bool PersonTable::updatePerson(qint64 person, const PersonInfo& old, const Perso
             return false;
     }
     return putFields(person, info.customFields);
+}
+
+// Apart, since asking what moment a local time stands for takes longer than the rest of an update.
+bool PersonTable::updateValidity(qint64 person, const PersonInfo& old, const PersonInfo& info)
+{
+    return (sameTime(old.validStartTime, info.validStartTime) &&
+            sameTime(old.validEndTime, info.validEndTime)) ||
+           m_store.run("UPDATE persons SET valid_start = ?, valid_end = ? WHERE number = ?",
+                       stored(info.validStartTime), stored(info.validEndTime), person);
 }
 
 bool PersonTable::putFace(qint64 person, int slot, const QByteArray& bytes)

@@ -4,8 +4,10 @@
 #include "LocalTimes.h"
 #include "NumberRanges.h"
 #include "PersonIndex.h"
+#include "Statement.h"
 
 #include <functional>
+#include <optional>
 
 namespace qarn_data
 {
@@ -37,11 +39,12 @@ public:
 private:
     struct Selection;
 
-    bool read(const Selection& selection, const QVariantList& values, const RecordHandler& handler);
+    bool read(const Selection& selection, const Values& values, const RecordHandler& handler);
+    bool updateValidity(qint64 person, const PersonInfo& old, const PersonInfo& info);
     bool putFace(qint64 person, int slot, const QByteArray& bytes);
     bool putFields(qint64 person, const QMap<QString, QString>& fields);
-    QVariant stored(const QDateTime& time);
-    QVariant place(const QString& organizationId) const;
+    std::optional<qint64> stored(const QDateTime& time);
+    std::optional<qint64> place(const QString& organizationId) const;
 
     SqlStore& m_store;
     const OrganizationIndex& m_organizations;

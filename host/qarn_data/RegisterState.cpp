@@ -52,7 +52,7 @@ bool RegisterState::load(SqlStore& store)
     return ChangeLog(store).lastNumber(&lastChange) && loadFields(store) && loadDevices(store) &&
            OrganizationTable(store).readAll(
                [this](const StoredOrganization& organization) { organizations.put(organization); }) &&
-           store.forEachRow(QStringLiteral("SELECT count(*) FROM records"), {},
+           store.forEachRow("SELECT count(*) FROM records", {},
                             [&records](const Row& row) { records = int(row.number(0)); }) &&
            (persons.reserve(records), true) &&
            table.readAll([this](const StoredRecord& record) { putRecord(record); });

@@ -1,30 +1,17 @@
 #pragma once
 
-#include <QByteArray>
+#include "Statement.h"
+
 #include <QString>
 #include <QStringList>
-#include <QVariantList>
 
-#include <functional>
+#include <memory>
 
 class QSqlDatabase;
 class QSqlError;
 
 namespace qarn_data
 {
-
-/// One row of a result, valid while the handler runs. Columns count from 0.
-class Row
-{
-public:
-    virtual ~Row();
-    virtual bool isNull(int column) const = 0;
-    virtual qint64 number(int column) const = 0; ///< 0 for NULL
-    virtual QString text(int column) const = 0;
-    virtual QByteArray bytes(int column) const = 0;
-};
-
-using RowHandler = std::function<void(const Row&)>;
 
 /// What differs between database engines. Everything else is portable SQL through SqlStore.
 class SqlDialect
@@ -51,9 +38,9 @@ public:
     /// Differs from the last answer on this connection when another connection committed.
     virtual const char* changeMark() const = 0;
 
-    /// Calls `handler` for each row, without a detour through QVariant where the engine allows it.
-    virtual bool forEachRow(QSqlDatabase& database, const QString& sql, const QVariantList& values,
-                            const RowHandler& handler, QSqlError* error) const;
+    /// Null, with the reason in `error`, when the engine does not understand `sql`.
+    virtual std::unique_ptr<Statement> statement(const QSqlDatabase& database, const char* sql,
+                                                 QSqlError* error) const;
 
     virtual bool checkpoint(QSqlDatabase& database, QSqlError* error) const = 0;
     virtual bool copyTo(QSqlDatabase& database, const QString& filePath, QSqlError* error) const = 0;

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QSqlDriver>
+#include <QSqlQuery>
 #include <QThread>
 #include <QUuid>
 
@@ -128,29 +129,12 @@ void SqlStore::rollback()
     m_error = error;
 }
 
-QSqlQuery* SqlStore::prepared(const char* sql)
+bool SqlStore::execute(const char* sql, const Value* values, int count, const RowHandler& handler)
 {
-    std::unique_ptr<QSqlQuery>& query = m_prepared[sql];
-    if (query == nullptr) {
-        auto fresh = std::make_unique<QSqlQuery>(m_database);
-        fresh->setForwardOnly(true);
-        if (!fresh->prepare(QString::fromUtf8(sql))) {
-            m_error = fresh->lastError();
-            return nullptr;
-        }
-        query = std::move(fresh);
-    }
-    return query.get();
-}
-
-bool SqlStore::execute(QSqlQuery& query)
-{
-    const bool ok = query.exec();
-    if (!ok)
-        m_error = query.lastError();
-    if (!query.isSelect())
-        query.finish();
-    return ok;
+    std::unique_ptr<Statement>& statement = m_prepared[sql];
+    if (statement == nullptr)
+        statement = m_dialect->statement(m_database, sql, &m_error);
+    return statement != nullptr && statement->run(values, count, handler, &m_error);
 }
 
 bool SqlStore::executeOnce(const QString& sql)
@@ -162,18 +146,10 @@ bool SqlStore::executeOnce(const QString& sql)
     return ok;
 }
 
-bool SqlStore::forEachRow(const QString& sql, const QVariantList& values, const RowHandler& handler)
-{
-    return m_dialect->forEachRow(m_database, sql, values, handler, &m_error);
-}
-
 qint64 SqlStore::changeMark()
 {
-    QSqlQuery* query = prepared(m_dialect->changeMark());
-    if (query == nullptr || !query->exec() || !query->next())
-        return -1;
-    const qint64 mark = query->value(0).toLongLong();
-    query->finish();
+    qint64 mark = -1;
+    forEachRow(m_dialect->changeMark(), {}, [&mark](const Row& row) { mark = row.number(0); });
     return mark;
 }
 

@@ -4,10 +4,9 @@
 
 #include <QSqlDatabase>
 #include <QSqlError>
-#include <QSqlQuery>
 #include <QString>
-#include <QVariant>
 
+#include <array>
 #include <memory>
 #include <unordered_map>
 
@@ -35,18 +34,18 @@ public:
     bool commit();
     void rollback();
 
-    /// Runs a statement; it stays prepared, found again by the address of its text.
-    template <class... Values>
-    bool run(const char* sql, const Values&... values)
+    /// Runs a statement. It stays prepared and is found again by the address of its text, which therefore
+    /// lives as long as the program.
+    template <class... Args>
+    bool run(const char* sql, const Args&... args)
     {
-        QSqlQuery* query = prepared(sql);
-        if (query == nullptr)
-            return false;
-        int place = 0;
-        (query->bindValue(place++, toVariant(values)), ...);
-        return execute(*query);
+        const std::array<Value, sizeof...(Args)> values{Value(args)...};
+        return execute(sql, values.data(), int(values.size()), {});
     }
-    bool forEachRow(const QString& sql, const QVariantList& values, const RowHandler& handler);
+    bool forEachRow(const char* sql, const Values& values, const RowHandler& handler)
+    {
+        return execute(sql, values.data(), int(values.size()), handler);
+    }
     /// True once after another connection has committed something.
     bool hasForeignChanges();
 
@@ -57,18 +56,7 @@ public:
     const SqlDialect& dialect() const { return *m_dialect; }
 
 private:
-    // A text column is never NULL, whatever kind of emptiness comes.
-    static QVariant toVariant(const QString& text)
-    {
-        return text.isNull() ? QString(QLatin1String("")) : text;
-    }
-    static QVariant toVariant(const QByteArray& bytes) { return bytes.isNull() ? QByteArray("") : bytes; }
-    static QVariant toVariant(qint64 number) { return number; }
-    static QVariant toVariant(int number) { return number; }
-    static QVariant toVariant(const QVariant& value) { return value; }
-
-    QSqlQuery* prepared(const char* sql);
-    bool execute(QSqlQuery& query);
+    bool execute(const char* sql, const Value* values, int count, const RowHandler& handler);
     bool executeOnce(const QString& sql);
     bool connectTo(const QString& location);
     bool migrate(QString* reason);
@@ -78,7 +66,7 @@ private:
     std::unique_ptr<SqlDialect> m_dialect;
     QString m_connectionName;
     QSqlDatabase m_database;
-    std::unordered_map<const char*, std::unique_ptr<QSqlQuery>> m_prepared;
+    std::unordered_map<const char*, std::unique_ptr<Statement>> m_prepared;
     QSqlError m_error;
     qint64 m_changeMark = 0;
 };

@@ -1,6 +1,7 @@
 #include "SqliteDialect.h"
 
 #include "SqliteSchema.h"
+#include "SqliteStatement.h"
 #include "StoreFile.h"
 
 #include <QCoreApplication>
@@ -19,6 +20,9 @@ namespace
 {
 
 constexpr int busyTimeoutMs = 5000;
+/// At this length of the journal (16 MiB) a writer waits for the disk; the Checkpointer comes before mostly.
+constexpr int journalPages = 4096;
+constexpr int cacheKiB = 16 * 1024; ///< an index of a large register fits in
 
 QString tr(const char* text)
 {
@@ -29,48 +33,6 @@ sqlite3* handleOf(const QSqlDatabase& database)
 {
     const QVariant handle = database.driver()->handle();
     return *static_cast<sqlite3* const*>(handle.constData());
-}
-
-QSqlError errorOf(sqlite3* handle)
-{
-    return QSqlError(QString(), QString::fromUtf8(sqlite3_errmsg(handle)), QSqlError::StatementError,
-                     QString::number(sqlite3_extended_errcode(handle)));
-}
-
-class StatementRow : public Row
-{
-public:
-    explicit StatementRow(sqlite3_stmt* statement) : m_statement(statement) {}
-    bool isNull(int column) const override { return sqlite3_column_type(m_statement, column) == SQLITE_NULL; }
-    qint64 number(int column) const override { return sqlite3_column_int64(m_statement, column); }
-    QString text(int column) const override
-    {
-        const auto* characters = reinterpret_cast<const char*>(sqlite3_column_text(m_statement, column));
-        return characters == nullptr
-                   ? QString()
-                   : QString::fromUtf8(characters, sqlite3_column_bytes(m_statement, column));
-    }
-    QByteArray bytes(int column) const override
-    {
-        const auto* data = static_cast<const char*>(sqlite3_column_blob(m_statement, column));
-        return data == nullptr ? QByteArray() : QByteArray(data, sqlite3_column_bytes(m_statement, column));
-    }
-
-private:
-    sqlite3_stmt* m_statement;
-};
-
-void bind(sqlite3_stmt* statement, int place, const QVariant& value)
-{
-    if (value.userType() == QMetaType::QString) {
-        const QByteArray text = value.toString().toUtf8();
-        sqlite3_bind_text(statement, place, text.constData(), text.size(), SQLITE_TRANSIENT);
-    } else if (value.userType() == QMetaType::QByteArray) {
-        const QByteArray bytes = value.toByteArray();
-        sqlite3_bind_blob(statement, place, bytes.constData(), bytes.size(), SQLITE_TRANSIENT);
-    } else if (!value.isNull()) {
-        sqlite3_bind_int64(statement, place, value.toLongLong());
-    }
 }
 
 bool execute(QSqlDatabase& database, const QString& sql, QSqlError* error, QVariant* answer = nullptr)
@@ -160,26 +122,13 @@ const char* SqliteDialect::changeMark() const
     return "PRAGMA data_version";
 }
 
-// Straight from the database's own handle: building a QVariant for every value would double the time that
-// opening a large store takes. The QSQLITE plugin uses the same SQLite library as this one.
-bool SqliteDialect::forEachRow(QSqlDatabase& database, const QString& sql, const QVariantList& values,
-                               const RowHandler& handler, QSqlError* error) const
+std::unique_ptr<Statement> SqliteDialect::statement(const QSqlDatabase& database, const char* sql,
+                                                    QSqlError* error) const
 {
-    sqlite3* handle = handleOf(database);
-    sqlite3_stmt* statement = nullptr;
-    const QByteArray text = sql.toUtf8();
-    bool ok = sqlite3_prepare_v2(handle, text.constData(), text.size(), &statement, nullptr) == SQLITE_OK;
-    for (int i = 0; ok && i < values.size(); ++i)
-        bind(statement, i + 1, values.at(i));
-    int step = SQLITE_DONE;
-    const StatementRow row(statement);
-    while (ok && (step = sqlite3_step(statement)) == SQLITE_ROW)
-        handler(row);
-    ok = ok && step == SQLITE_DONE;
-    if (!ok)
-        *error = errorOf(handle);
-    sqlite3_finalize(statement);
-    return ok;
+    auto statement = std::make_unique<SqliteStatement>(handleOf(database));
+    if (!statement->prepare(sql, error))
+        return nullptr;
+    return statement;
 }
 
 bool SqliteDialect::checkpoint(QSqlDatabase& database, QSqlError* error) const

@@ -20,8 +20,8 @@ public:
     const char* beginWrite() const override;
     const char* beginRead() const override;
     const char* changeMark() const override;
-    bool forEachRow(QSqlDatabase& database, const QString& sql, const QVariantList& values,
-                    const RowHandler& handler, QSqlError* error) const override;
+    std::unique_ptr<Statement> statement(const QSqlDatabase& database, const char* sql,
+                                         QSqlError* error) const override;
     bool checkpoint(QSqlDatabase& database, QSqlError* error) const override;
     bool copyTo(QSqlDatabase& database, const QString& filePath, QSqlError* error) const override;
     QString selfCheck(QSqlDatabase& database) const override;

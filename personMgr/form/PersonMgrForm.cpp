@@ -14,6 +14,7 @@
 #include <QEvent>
 #include <QRegularExpressionValidator>
 #include <QScrollBar>
+#include <QStyle>
 
 using qarn_base::IconButton;
 using qarn_base::PageEditWt;
@@ -30,10 +31,13 @@ constexpr int personMgrFormType = 15;
 constexpr int lastPage = -1;
 constexpr int scrollBarWidth = 16; // pixels
 
-/// The host's style sheet keys on these properties.
+/// The host's style sheet keys on these properties. A widget that was measured before, such as the scroll
+/// bar of a scroll area, has to be polished again to take it in.
 void setStyleProperty(QWidget* widget, const char* property)
 {
     widget->setProperty(property, true);
+    widget->style()->unpolish(widget);
+    widget->style()->polish(widget);
 }
 
 } // namespace

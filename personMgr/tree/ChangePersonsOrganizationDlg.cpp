@@ -20,6 +20,7 @@ ChangePersonsOrganizationDlg::ChangePersonsOrganizationDlg(QWidget* parent)
     m_ui->setupUi(this);
     setTitle(tr("Change Persons Organization"));
     new qarn_base::SearchTreeTools(m_ui->searchWt, m_ui->treeWidget, this);
+    m_ui->treeWidget->setFocus();
     connect(m_ui->okBt, &QPushButton::clicked, this, &ChangePersonsOrganizationDlg::validate);
     connect(m_ui->cancelBt, &QPushButton::clicked, this, &ChangePersonsOrganizationDlg::reject);
 }

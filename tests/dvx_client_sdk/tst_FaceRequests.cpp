@@ -1,5 +1,6 @@
 #include "LinkListener.h"
 #include "SimulatedDevice.h"
+#include "TestStore.h"
 
 #include <dvx_client_sdk/ResponseCodes.h>
 
@@ -12,6 +13,9 @@ class tst_FaceRequests : public QObject
     Q_OBJECT
 private slots:
     void addsListsAndDeletes();
+
+private:
+    TestStore m_store;
 };
 
 void tst_FaceRequests::addsListsAndDeletes()

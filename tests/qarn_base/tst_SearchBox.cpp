@@ -21,6 +21,7 @@ private slots:
     void returnAndArrowsSearchOn();
     void returnDoesNotReachTheDialog();
     void escapeClearsFirst();
+    void cleanupTestCase();
 
 private:
     std::unique_ptr<QDialog> m_dialog;
@@ -90,6 +91,12 @@ void tst_SearchBox::escapeClearsFirst()
     QVERIFY(m_dialog->isVisible());
     QTest::keyClick(m_edit, Qt::Key_Escape);
     QVERIFY(!m_dialog->isVisible());
+}
+
+/// Qt fades the clear button of an edit and ends that only a moment after the edit has gone.
+void tst_SearchBox::cleanupTestCase()
+{
+    QTest::qWait(250);
 }
 
 QTEST_MAIN(tst_SearchBox)

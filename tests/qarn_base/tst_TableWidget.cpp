@@ -9,6 +9,8 @@ using qarn_base::EditOperWt;
 using qarn_base::TableOperWt;
 using qarn_base::TableWidget;
 
+Q_DECLARE_METATYPE(QTableWidgetItem*)
+
 class NotingOperWt : public EditOperWt
 {
 public:
@@ -29,6 +31,7 @@ private slots:
     void cleanup() { m_table.reset(); }
 
     void hoverStylesTheRow();
+    void selectedRowStaysSelectedUnderTheMouse();
     void hoverIsNoEdit();
     void noHoverWithoutMouseTracking();
     void hoverThroughTheRowsButtons();
@@ -46,6 +49,7 @@ private:
 
 void tst_TableWidget::init()
 {
+    qRegisterMetaType<QTableWidgetItem*>();
     m_table = std::make_unique<TableWidget>();
     m_buttons.clear();
     m_table->setColumnCount(2);
@@ -72,6 +76,15 @@ void tst_TableWidget::hoverStylesTheRow()
     QEvent leave(QEvent::Leave);
     QApplication::sendEvent(m_table.get(), &leave);
     QCOMPARE(m_buttons.at(2)->style, TableOperWt::NormalStyle);
+}
+
+void tst_TableWidget::selectedRowStaysSelectedUnderTheMouse()
+{
+    moveTo(1);
+    m_table->selectRow(1);
+    QCOMPARE(m_buttons.at(1)->style, TableOperWt::SelectedStyle);
+    m_table->clearSelection();
+    QCOMPARE(m_buttons.at(1)->style, TableOperWt::HoverStyle);
 }
 
 void tst_TableWidget::hoverIsNoEdit()

@@ -1,7 +1,7 @@
 #include <qarn_base/TimeSpaceLineEt.h>
 
 #include <QSignalSpy>
-#include <QTimeZone>
+#include <QToolButton>
 #include <QtTest>
 
 using qarn_base::TimeSpaceLineEt;
@@ -76,9 +76,11 @@ void tst_TimeSpaceLineEt::canBePressedButNotTyped()
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space})
         QTest::keyClick(&field, key);
     QCOMPARE(clicked.count(), 5);
+    QTest::mouseClick(field.findChild<QToolButton*>(), Qt::LeftButton);
+    QCOMPARE(clicked.count(), 6);
     QTest::mouseClick(&field, Qt::RightButton);
     QTest::keyClicks(&field, QStringLiteral("abc"));
-    QCOMPARE(clicked.count(), 5);
+    QCOMPARE(clicked.count(), 6);
     QCOMPARE(field.text(), text);
 }
 

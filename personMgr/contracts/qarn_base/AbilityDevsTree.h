@@ -37,7 +37,7 @@ protected:
 private:
     void refresh();
     void addDevice(const qarn_data::Device& device, const QSet<QPair<QString, int>>& checked, bool expanded);
-    static void showOffline(TreeItem& device);
+    static void showReachability(TreeItem& device, bool offline);
 
     struct Private;
     std::unique_ptr<Private> p;

@@ -33,7 +33,6 @@ protected:
     virtual void quitSystem(); ///< what the close button does: rejects
 
     void resizeEvent(QResizeEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 
 private:
     struct Private;

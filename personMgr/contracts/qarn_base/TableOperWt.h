@@ -17,6 +17,12 @@ public:
     explicit TableOperWt(QWidget* parent = nullptr);
 
     virtual void setWtStyle(WidgetStyle style);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    WidgetStyle m_style = NormalStyle;
 };
 
 } // namespace qarn_base
