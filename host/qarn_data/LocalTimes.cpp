@@ -43,6 +43,16 @@ QDateTime shift(const QDateTime& start, qint64 msecs)
     return time;
 }
 
+qint64 startOf(const QDate& date)
+{
+    return QDateTime(date, QTime(0, 0)).toMSecsSinceEpoch();
+}
+
+qint64 endOf(const QDate& date)
+{
+    return QDateTime(date, QTime(23, 59, 59, 999)).toMSecsSinceEpoch();
+}
+
 qint64 dayOf(qint64 msecs)
 {
     return msecs >= 0 ? msecs / dayMs : -((-msecs + dayMs - 1) / dayMs);
@@ -83,9 +93,11 @@ qint64 LocalTimes::toMSecs(const QDateTime& time)
     }
     LocalDay& day = *known;
     if (day.kind == Kind::SeenOnce) {
-        day.start = QDateTime(date, QTime(0, 0)).toMSecsSinceEpoch();
-        const qint64 end = QDateTime(date, QTime(23, 59, 59, 999)).toMSecsSinceEpoch();
-        day.kind = end - day.start == dayMs - 1 ? Kind::Uniform : Kind::Uneven;
+        day.start = startOf(date);
+        // An hour that comes twice may lie at either end of the day; then the neighbours do not fit.
+        const bool fits = endOf(date) - day.start == dayMs - 1 && day.start - endOf(date.addDays(-1)) == 1 &&
+                          startOf(date.addDays(1)) - day.start == dayMs;
+        day.kind = fits ? Kind::Uniform : Kind::Uneven;
     }
     return day.kind == Kind::Uniform ? day.start + time.time().msecsSinceStartOfDay()
                                      : time.toMSecsSinceEpoch();

@@ -57,12 +57,13 @@ void PersonIndex::replace(int position, const StoredRecord& record)
     const Slot old = m_slots.at(position);
     const PersonInfo oldInfo = m_infos.at(position);
     leave(old, oldInfo);
+    // What one record of a person says now, the others will say in a moment.
+    if (m_bySerial.value(oldInfo.serialNum) == old.person)
+        m_bySerial.remove(oldInfo.serialNum);
     m_members.erase(std::lower_bound(m_members.begin(), m_members.end(), Member(old.person, old.record)));
-    leaveSerialNum(old.person, oldInfo.serialNum);
     m_slots[position] = {record.number, record.person, organizationPlace(record.info.organizationId)};
     m_infos[position] = record.info;
     enter(m_slots.at(position), record.info);
-    findFirst({oldInfo.name});
 }
 
 void PersonIndex::enter(const Slot& entry, const PersonInfo& info)
@@ -81,15 +82,16 @@ void PersonIndex::enterName(const QString& name, qint64 record)
 {
     const auto known = m_byName.find(name);
     if (known == m_byName.end()) {
-        m_byName.insert(name, {record, 1});
+        m_byName.insert(name, {record, {}});
         return;
     }
+    QList<qint64>& others = known->others;
+    const qint64 later = std::max(known->first, record);
     known->first = std::min(known->first, record);
-    ++known->count;
+    others.insert(std::upper_bound(others.begin(), others.end(), later), later);
 }
 
-// Takes a record out of the ways to find it. Whoever calls this sees to members, serial number and to the
-// first bearer of the name.
+// Takes a record out of the ways to find it. Whoever calls this sees to members and serial number.
 void PersonIndex::leave(const Slot& entry, const PersonInfo& info)
 {
     m_byId.remove(info.id);
@@ -100,10 +102,13 @@ void PersonIndex::leave(const Slot& entry, const PersonInfo& info)
 void PersonIndex::leaveName(const QString& name, qint64 record)
 {
     const auto namesakes = m_byName.find(name);
-    if (--namesakes->count == 0)
+    QList<qint64>& others = namesakes->others;
+    if (namesakes->first != record)
+        others.erase(std::lower_bound(others.begin(), others.end(), record));
+    else if (others.isEmpty())
         m_byName.erase(namesakes);
-    else if (namesakes->first == record)
-        namesakes->first = NoRecord;
+    else
+        namesakes->first = others.takeFirst();
 }
 
 void PersonIndex::leaveSerialNum(qint64 person, const QString& serialNum)
@@ -113,25 +118,9 @@ void PersonIndex::leaveSerialNum(qint64 person, const QString& serialNum)
         m_bySerial.erase(known);
 }
 
-// Gives names that lost their first bearer the next one, in one pass.
-void PersonIndex::findFirst(const QSet<QString>& names)
-{
-    QSet<QString> open;
-    for (const QString& name : names) {
-        const auto namesakes = m_byName.constFind(name);
-        if (namesakes != m_byName.constEnd() && namesakes->first == NoRecord)
-            open.insert(name);
-    }
-    for (int i = 0; i < m_infos.size() && !open.isEmpty(); ++i) {
-        if (open.remove(m_infos.at(i).name))
-            m_byName[m_infos.at(i).name].first = m_slots.at(i).record;
-    }
-}
-
 QStringList PersonIndex::remove(const QVector<qint64>& numbers)
 {
     QStringList ids;
-    QSet<QString> names;
     QVector<bool> gone(m_slots.size(), false);
     QVector<QPair<qint64, QString>> serials;
     for (const qint64 number : numbers) {
@@ -142,14 +131,12 @@ QStringList PersonIndex::remove(const QVector<qint64>& numbers)
         const PersonInfo& info = m_infos.at(place);
         leave(m_slots.at(place), info);
         ids.append(info.id);
-        names.insert(info.name);
         serials.append({m_slots.at(place).person, info.serialNum});
     }
     if (!ids.isEmpty())
         dropMarked(gone);
     for (const auto& serial : qAsConst(serials))
         leaveSerialNum(serial.first, serial.second);
-    findFirst(names);
     return ids;
 }
 
@@ -189,7 +176,6 @@ void PersonIndex::updatePerson(qint64 person, const PersonInfo& info)
             m_bySerial.remove(old.serialNum);
         if (!info.serialNum.isEmpty())
             m_bySerial.insert(info.serialNum, person);
-        findFirst({old.name});
     }
 }
 

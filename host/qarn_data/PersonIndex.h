@@ -63,12 +63,10 @@ private:
         int organization; ///< place in m_organizations
     };
     struct Namesakes {
-        qint64 first; ///< record
-        int count;
+        qint64 first;         ///< record
+        QList<qint64> others; ///< records, sorted; empty for most names
     };
     using Member = QPair<qint64, qint64>; ///< person, record
-
-    static constexpr qint64 NoRecord = 0;
 
     int position(qint64 record) const; ///< in m_slots and m_infos; -1 when unknown
     int organizationPlace(const QString& organizationId);
@@ -79,7 +77,6 @@ private:
     void leave(const Slot& entry, const PersonInfo& info);
     void leaveName(const QString& name, qint64 record);
     void leaveSerialNum(qint64 person, const QString& serialNum);
-    void findFirst(const QSet<QString>& names);
     void dropMarked(const QVector<bool>& gone);
 
     // Side by side, one element a record, sorted by its number.

@@ -157,7 +157,7 @@ bool PersonTable::read(const Selection& selection, const Values& values, const R
     };
     return m_store.forEachRow(selection.values.constData(), values, takeField) &&
            m_store.forEachRow(selection.faces.constData(), values, takeFace) &&
-           m_store.forEachRow(selection.records.constData(), values, takeRecord);
+           m_store.forEachRow(selection.records.constData(), values, takeRecord) && !m_faces.hasFailed();
 }
 
 std::optional<qint64> PersonTable::stored(const QDateTime& time)
