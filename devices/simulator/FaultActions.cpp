@@ -18,6 +18,7 @@ namespace
 
 constexpr std::size_t HugeBytes = std::size_t(4) << 30;
 constexpr int DripMs = 20;
+constexpr std::size_t DripBytes = 100000; ///< more than half an hour
 
 /// The HTTP library does not hand out the socket of a request; the peer's port tells which one it is.
 int socketOf(const httplib::Request& request)
@@ -62,7 +63,7 @@ void answerPartly(httplib::Response& response, std::size_t length, std::size_t s
 void drip(httplib::Response& response)
 {
     response.status = 200;
-    response.set_content_provider(HugeBytes, ScimMediaType,
+    response.set_content_provider(DripBytes, ScimMediaType,
                                   [](std::size_t, std::size_t, httplib::DataSink& sink) {
                                       std::this_thread::sleep_for(std::chrono::milliseconds(DripMs));
                                       return sink.write(" ", 1);

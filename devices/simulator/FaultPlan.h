@@ -18,7 +18,7 @@ enum class Fault {
     Half,    ///< the connection is closed in the middle of an answer
     Rubbish, ///< success, with a body that is no JSON
     Huge,    ///< success, with a body of 4 GiB
-    Drip,    ///< an endless answer, a byte at a time
+    Drip,    ///< an answer that comes a byte at a time
     Total,   ///< a list that promises more faces than there are
     Empty,   ///< a list without the faces that it promises
 };

@@ -112,7 +112,7 @@ void ProbeJob::tryChannel(int number)
             m_result.channels.append({number, QString(), qarn_data::FaceListAbility});
         if (found && number < MaxTriedChannels)
             return tryChannel(number + 1);
-        end(m_result.channels.isEmpty() ? int(BadAnswer) : int(Success));
+        end(m_result.channels.isEmpty() ? NotFoundStatus : int(Success));
     });
 }
 

@@ -9,6 +9,7 @@
 
 #include <QDateTimeEdit>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>

@@ -9,7 +9,7 @@ void PersonIndex::reserve(int records)
 {
     m_infos.reserve(records);
     m_slots.reserve(records);
-    m_members.reserve(records);
+    m_records.reserve(records);
     m_byId.reserve(records);
     m_bySerial.reserve(records);
     m_byName.reserve(records);
@@ -60,7 +60,7 @@ void PersonIndex::replace(int position, const StoredRecord& record)
     // What one record of a person says now, the others will say in a moment.
     if (m_bySerial.value(oldInfo.serialNum) == old.person)
         m_bySerial.remove(oldInfo.serialNum);
-    m_members.erase(std::lower_bound(m_members.begin(), m_members.end(), Member(old.person, old.record)));
+    m_records.remove(old.person, old.record);
     m_slots[position] = {record.number, record.person, organizationPlace(record.info.organizationId)};
     m_infos[position] = record.info;
     enter(m_slots.at(position), record.info);
@@ -68,9 +68,8 @@ void PersonIndex::replace(int position, const StoredRecord& record)
 
 void PersonIndex::enter(const Slot& entry, const PersonInfo& info)
 {
-    const Member member(entry.person, entry.record);
-    m_members.insert(int(std::upper_bound(m_members.begin(), m_members.end(), member) - m_members.begin()),
-                     member);
+    m_records.insert(entry.person, entry.record);
+    m_lastPerson = std::max(m_lastPerson, entry.person);
     m_byId.insert(info.id, entry.record);
     if (!info.serialNum.isEmpty())
         m_bySerial.insert(info.serialNum, entry.person);
@@ -114,7 +113,7 @@ void PersonIndex::leaveName(const QString& name, qint64 record)
 void PersonIndex::leaveSerialNum(qint64 person, const QString& serialNum)
 {
     const auto known = m_bySerial.find(serialNum);
-    if (known != m_bySerial.end() && *known == person && recordsOf(person).isEmpty())
+    if (known != m_bySerial.end() && *known == person && !m_records.contains(person))
         m_bySerial.erase(known);
 }
 
@@ -143,12 +142,12 @@ QStringList PersonIndex::remove(const QVector<qint64>& numbers)
 // One pass over the lists, however many go.
 void PersonIndex::dropMarked(const QVector<bool>& gone)
 {
-    const auto isGone = [&](const Member& member) { return gone.at(position(member.second)); };
-    m_members.erase(std::remove_if(m_members.begin(), m_members.end(), isGone), m_members.end());
     int kept = 0;
     for (int i = 0; i < gone.size(); ++i) {
-        if (gone.at(i))
+        if (gone.at(i)) {
+            m_records.remove(m_slots.at(i).person, m_slots.at(i).record);
             continue;
+        }
         if (kept != i) {
             m_slots[kept] = m_slots.at(i);
             m_infos.swapItemsAt(kept, i);
@@ -272,9 +271,10 @@ qint64 PersonIndex::personOf(qint64 record) const
 QVector<qint64> PersonIndex::recordsOf(qint64 person) const
 {
     QVector<qint64> records;
-    for (auto member = std::lower_bound(m_members.cbegin(), m_members.cend(), Member(person, 0));
-         member != m_members.cend() && member->first == person; ++member)
-        records.append(member->second);
+    for (auto entry = m_records.constFind(person); entry != m_records.cend() && entry.key() == person;
+         ++entry)
+        records.append(*entry);
+    std::sort(records.begin(), records.end());
     return records;
 }
 

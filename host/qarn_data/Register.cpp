@@ -153,7 +153,7 @@ bool Register::backup(const QString& filePath, QString* error)
         const std::unique_ptr<SqlStore> reader = makeStore();
         if (QFileInfo(filePath).canonicalFilePath() == QFileInfo(location).canonicalFilePath())
             reason = tr("It is the open store itself. Choose another file.");
-        else if (reader->open(location, &reason))
+        else if (reader->openBeside(location, &reason))
             backupStore(*reader, filePath, &reason);
     }
     if (!reason.isEmpty())

@@ -9,7 +9,7 @@
 #include <qarn_worker/DictDef.h>
 #include <qarn_worker/SystemAssistant.h>
 
-#include <QMouseEvent>
+#include <QKeyEvent>
 #include <QStandardPaths>
 #include <QToolTip>
 
@@ -29,6 +29,15 @@ QString desktopDirectory()
 void alert(const QString& title, const QString& text)
 {
     qarn_worker::SystemAssistant::instance().messageAlert(title, text);
+}
+
+/// A key that a link answers to.
+bool isActivation(const QEvent& event)
+{
+    if (event.type() != QEvent::KeyPress)
+        return false;
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
 }
 
 void showToolTip(QWidget* field, const QString& text)
@@ -74,9 +83,11 @@ QList<int> ImportPersonsDlg::getNamingRule() const
 
 bool ImportPersonsDlg::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_ui->downloadTemplate) {
-        if (event->type() == QEvent::MouseButtonRelease)
-            downloadTemplate();
+    if (watched == m_ui->downloadTemplate && event->type() == QEvent::MouseButtonRelease)
+        downloadTemplate();
+    if (watched == m_ui->downloadTemplate && isActivation(*event)) {
+        downloadTemplate();
+        return true; // else the dialog's default button would take the key too
     }
     return CommonDialog::eventFilter(watched, event);
 }

@@ -63,6 +63,7 @@ private slots:
 
     void limitsTheFields();
     void hasTheSizesOfItsFields();
+    void keepsItsSizesUnderAStyleSheet();
     void showsARecord();
     void gathersWhatItShows();
     void gathersWhatIsTyped();
@@ -151,6 +152,23 @@ void tst_PersonInfoModifyWt::hasTheSizesOfItsFields()
     QVERIFY(!child<QWidget>(m_form, "extraInfoWt")->isVisible());
     QCOMPARE(m_form->height(), 470); // fits without scrolling
     QCOMPARE(m_form->width(), 731);
+}
+
+void tst_PersonInfoModifyWt::keepsItsSizesUnderAStyleSheet()
+{
+    // A minimum in a style sheet takes the place of the form's own.
+    qApp->setStyleSheet("QLineEdit, QComboBox, QDateEdit { min-height: 18px; border: 1px solid gray; }");
+    toggle("customInfoExpandBt");
+    toggle("extraInfoExpandBt");
+    QCOMPARE(child<QWidget>(m_form, "customInfoWt")->height(), CustomHeight);
+    const auto edits = m_form->findChildren<QLineEdit*>();
+    for (const QLineEdit* edit : edits) {
+        if (edit->isVisible() && edit->objectName() != "qt_spinbox_lineedit")
+            QCOMPARE(edit->height(), 28);
+    }
+    for (const char* name : {"sex", "identityType", "birthDate", "employDate"})
+        QCOMPARE(child<QWidget>(m_form, name)->size(), QSize(205, 28));
+    qApp->setStyleSheet(QString());
 }
 
 void tst_PersonInfoModifyWt::showsARecord()

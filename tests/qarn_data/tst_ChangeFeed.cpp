@@ -34,7 +34,7 @@ public:
     explicit OtherProcess(const QString& filePath)
     {
         QString reason;
-        if (!m_sql.open(filePath, &reason))
+        if (!m_sql.openBeside(filePath, &reason))
             qFatal("%s", qPrintable(reason));
         OrganizationTable(m_sql).readAll(
             [this](const StoredOrganization& each) { m_organizations.put(each); });

@@ -3,7 +3,12 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QtTest>
+
+#include <cstdio>
+#include <memory>
+#include <vector>
 
 #include <sys/stat.h>
 
@@ -14,6 +19,8 @@ using samples::root;
 
 namespace
 {
+
+const QString addAndLeave = QStringLiteral("--add-and-leave"); ///< makes this program one of several writers
 
 DataService& service()
 {
@@ -51,6 +58,7 @@ private slots:
     void refusesBackups_data();
     void refusesBackups();
     void bringsWritesToTheFileWithinASecond();
+    void processesThatComeAndGoLoseNothing();
 
 private:
     std::unique_ptr<QTemporaryDir> m_directory;
@@ -261,5 +269,54 @@ void tst_DataService::bringsWritesToTheFileWithinASecond()
     QTRY_VERIFY_WITH_TIMEOUT(contentOf(path("store.db")).contains(info.remarks.toUtf8()), 1000);
 }
 
-QTEST_GUILESS_MAIN(tst_DataService)
+// Several processes make the store, write and close at one time. Each closing process may believe to be the
+// last one only if it is.
+void tst_DataService::processesThatComeAndGoLoseNothing()
+{
+    constexpr int processes = 4;
+    for (int round = 0; round < 6; ++round) {
+        const QString store = path(QStringLiteral("round%1.db").arg(round));
+        std::vector<std::unique_ptr<QProcess>> writers;
+        for (int i = 0; i < processes; ++i) {
+            writers.push_back(std::make_unique<QProcess>());
+            writers.back()->start(QCoreApplication::applicationFilePath(),
+                                  {addAndLeave, store, QStringLiteral("person %1").arg(i)});
+        }
+        for (const auto& writer : writers) {
+            QVERIFY(writer->waitForFinished());
+            QVERIFY2(writer->exitStatus() == QProcess::NormalExit && writer->exitCode() == 0,
+                     writer->readAllStandardError().constData());
+        }
+        QVERIFY(service().open(store));
+        QCOMPARE(PersonData::instance().getAllPersons(false).size(), processes);
+        QCOMPARE(samples::inconsistency(), QString());
+        service().close();
+    }
+}
+
+namespace
+{
+
+int addPersonAndLeave(const QString& store, const QString& id)
+{
+    QString error;
+    bool ok = DataService::instance().open(store, &error) && PersonData::instance().addPerson(person(id));
+    DataService::instance().close();
+    if (!ok)
+        std::fprintf(stderr, "%s: %s\n", qPrintable(id), qPrintable(error));
+    return ok ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == addAndLeave)
+        return addPersonAndLeave(arguments.value(2), arguments.value(3));
+    tst_DataService test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_DataService.moc"

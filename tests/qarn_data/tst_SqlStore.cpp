@@ -218,7 +218,9 @@ void tst_SqlStore::noticesForeignChanges()
     QTemporaryDir directory;
     const QString location = directory.filePath("store.db");
     const auto ours = opened(location, std::make_unique<SqliteDialect>());
-    const auto theirs = opened(location, std::make_unique<SqliteDialect>());
+    const auto theirs = std::make_unique<SqlStore>(std::make_unique<SqliteDialect>());
+    QString reason;
+    QVERIFY(theirs->openBeside(location, &reason));
     QVERIFY(!ours->hasForeignChanges());
     QVERIFY(ours->run("INSERT INTO organizations VALUES (2, 'x', 1, 'X')"));
     QVERIFY(!ours->hasForeignChanges());

@@ -39,6 +39,8 @@ private slots:
     void writesTheTemplate();
     void tellsATemplateThatCannotBeWritten();
     void writesNothingOnCancel();
+    void downloadsByKeyboard_data();
+    void downloadsByKeyboard();
 
 private:
     QTemporaryDir m_directory;
@@ -82,7 +84,7 @@ ModalDriver::Action answer(const QString& path, QString* caption = nullptr)
             dialog->reject();
             return;
         }
-        part<QLineEdit>(*dialog, "fileNameEdit")->setText(path);
+        dialog->selectFile(path);
         QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection); // it may ask something in turn
     };
 }
@@ -300,7 +302,9 @@ void tst_ImportPersonsDlg::writesTheTemplate()
     QString caption;
     driver.expect(answer(file, &caption));
     driver.expect([](QWidget* question) { // the file is there already
-        qobject_cast<QMessageBox*>(question)->button(QMessageBox::Yes)->click();
+        auto* box = qobject_cast<QMessageBox*>(question);
+        QVERIFY(box != nullptr);
+        box->button(QMessageBox::Yes)->click();
     });
     click(dialog, "downloadTemplate");
     QCOMPARE(caption, QString("Download Person import template"));
@@ -333,6 +337,29 @@ void tst_ImportPersonsDlg::writesNothingOnCancel()
     QCOMPARE(driver.pending(), 0);
     QCoreApplication::processEvents();
     QCOMPARE(alerts.count(), 0);
+}
+
+void tst_ImportPersonsDlg::downloadsByKeyboard_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("Return") << int(Qt::Key_Return);
+    QTest::newRow("Space") << int(Qt::Key_Space);
+}
+
+void tst_ImportPersonsDlg::downloadsByKeyboard()
+{
+    QFETCH(int, key);
+    const QString file = m_directory.filePath("by_keyboard.csv");
+    QFile::remove(file);
+    ImportPersonsDlg dialog(nullptr);
+    dialog.show();
+    ModalDriver driver;
+    driver.expect(answer(file));
+    auto* link = part<QLabel>(dialog, "downloadTemplate");
+    QVERIFY(link->focusPolicy() & Qt::TabFocus);
+    QTest::keyClick(link, Qt::Key(key));
+    QVERIFY(QFile::exists(file));
+    QVERIFY2(!QToolTip::isVisible(), "the key does not press the import button too");
 }
 
 QTEST_MAIN(tst_ImportPersonsDlg)

@@ -29,17 +29,20 @@ private slots:
 
 void tst_PersonFileFormat::endsEveryLineWithASeparator()
 {
-    QCOMPARE(personFileLine({"a", "b"}), QString("a,b,\n"));
-    QCOMPARE(personFileLine({"a"}), QString("a,\n"));
-    QCOMPARE(personFileLine({"", "b,c"}), QString(",b,c,\n")); // nothing is quoted
-    QCOMPARE(personFileLine({"a", "b"}).chopped(1).split(',').count(), 3);
+    QString text = "before\n";
+    appendPersonFileLine(text, {"a", "b"});
+    appendPersonFileLine(text, {"a"});
+    appendPersonFileLine(text, {"", "b,c"}); // nothing is quoted
+    appendPersonFileLine(text, {});
+    QCOMPARE(text, QString("before\na,b,\na,\n,b,c,\n,\n"));
+    QCOMPARE(text.split('\n')[1].split(',').count(), 3);
 }
 
 void tst_PersonFileFormat::writesTheTemplateToTheByte()
 {
     QString text;
     for (const QStringList& row : importTemplateRows())
-        text += personFileLine(row);
+        appendPersonFileLine(text, row);
     QCOMPARE(text.toUtf8(), transferFiles::read(TRANSFER_TEST_DATA "/template.csv"));
 }
 
@@ -187,7 +190,10 @@ void tst_PersonFileFormat::givesStartAndEndOfTheDay()
 
 void tst_PersonFileFormat::writesDates()
 {
-    QCOMPARE(exportedDate(QDateTime(QDate(2024, 3, 7), QTime(23, 59))), QString("2024/03/07"));
+    for (const QDate& date : {QDate(2024, 3, 7), QDate(2024, 12, 31), QDate(1, 1, 1), QDate(999, 10, 20),
+                              QDate(9999, 12, 31), QDate(10000, 1, 1), QDate(-44, 3, 15), QDate()})
+        QCOMPARE(exportedDate(QDateTime(date, QTime(23, 59))), date.toString("yyyy/MM/dd"));
+    QCOMPARE(exportedDate(QDateTime(QDate(2024, 3, 7), QTime(0, 0))), QString("2024/03/07"));
     QCOMPARE(exportedDate(QDateTime()), QString());
 }
 
