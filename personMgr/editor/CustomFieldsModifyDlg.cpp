@@ -158,9 +158,10 @@ void CustomFieldsModifyDlg::watchNameEditor(QLineEdit* editor, const QString& ro
     m_editedRowId = rowId;
     // Rows that light up under the mouse would disturb the editor.
     m_ui->tableWidget->setMouseTracking(false);
-    connect(editor, &QObject::destroyed, &m_editorWatch, [this, editor, rowId] {
+    const QWidget* watched = editor; // reported when it is no line edit any more
+    connect(editor, &QObject::destroyed, &m_editorWatch, [this, watched, rowId] {
         checkName(rowId);
-        if (m_nameEditor == nullptr || m_nameEditor == editor) { // else the next name is being edited
+        if (m_nameEditor == nullptr || m_nameEditor == watched) { // else the next name is being edited
             m_nameEditor.clear();
             m_ui->tableWidget->setMouseTracking(true);
         }

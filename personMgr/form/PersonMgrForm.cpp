@@ -88,6 +88,8 @@ void PersonMgrForm::setToolBarIcons()
         {m_ui->setCustomFieldsBt, QStringLiteral(":/images/images/config_iconBt_n.png")}};
     for (const auto& icon : icons)
         icon.first->setIcons(icon.second, icon.second);
+    // The buttons' own least width would let a longer text be cut when the page is narrow.
+    m_ui->widget_4->setMinimumWidth(m_ui->horizontalLayout_4->sizeHint().width());
 }
 
 void PersonMgrForm::createTable()

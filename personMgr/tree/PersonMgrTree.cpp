@@ -12,6 +12,8 @@
 
 #include <QUuid>
 
+#include <memory>
+
 using qarn_base::BaseTools;
 using qarn_base::ItemModifyDlg;
 using qarn_base::TreeItem;
@@ -103,22 +105,22 @@ void PersonMgrTree::showOrganizationModifyDlg(ModifyType modifyType, const TreeI
         BaseTools::instance().getRootParentWt(this));
     dialog->setNameMaxLength(NameMaxLength);
 
-    OrganizationInfo record;
+    auto record = std::make_shared<OrganizationInfo>(); // one for all that is added in this run
     if (modifyType == ItemModifyDlg::AddItem) {
-        record.parentId = item->getId();
-        record.name = makeDefaultOrganizationName(item);
-        dialog->setModifyType(modifyType, tr("Add Organization"), record.name, record.id);
+        *record = {QString(), item->getId(), makeDefaultOrganizationName(item)};
+        dialog->setModifyType(modifyType, tr("Add Organization"), record->name, record->id);
     } else {
-        record = {item->getId(), item->getParentId(), item->getName()};
-        dialog->setModifyType(modifyType, tr("Edit Organization"), record.name, record.id);
+        *record = {item->getId(), item->getParentId(), item->getName()};
+        dialog->setModifyType(modifyType, tr("Edit Organization"), record->name, record->id);
     }
 
-    connect(dialog, &ItemModifyDlg::signalAddItem, this, [&](const QString& name, bool keepAdding) {
-        addOrganizationFromDlg(record, *dialog, name, keepAdding);
-    });
-    connect(dialog, &ItemModifyDlg::signalEditItem, this, [&record](const QString&, const QString& name) {
-        record.name = name;
-        PersonData::instance().updateOrganization(record);
+    connect(dialog, &ItemModifyDlg::signalAddItem, this,
+            [this, record, dialog](const QString& name, bool keepAdding) {
+                addOrganizationFromDlg(*record, *dialog, name, keepAdding);
+            });
+    connect(dialog, &ItemModifyDlg::signalEditItem, this, [record](const QString&, const QString& name) {
+        record->name = name;
+        PersonData::instance().updateOrganization(*record);
     });
     dialog->exec();
     dialog->deleteLater();

@@ -85,6 +85,7 @@ private slots:
     void unfoldsBothAndFoldsCustom();
     void unfoldsBothAndFoldsExtra();
     void scrollsToAnUnfoldedSection();
+    void leavesTheWheelToTheScrollArea();
     void picksThePeriod();
     void refusesAPeriodOverThreeYears();
 
@@ -480,6 +481,24 @@ void tst_PersonInfoModifyWt::scrollsToAnUnfoldedSection()
     QVERIFY(visibleIn("extraInfoWt"));
     QVERIFY(m_area->verticalScrollBar()->maximum() > 0);
     QCOMPARE(m_area->verticalScrollBar()->value(), m_area->verticalScrollBar()->maximum());
+}
+
+void tst_PersonInfoModifyWt::leavesTheWheelToTheScrollArea()
+{
+    m_form->setPersonInfo(stored());
+    toggle("extraInfoExpandBt");
+    for (const char* name : {"birthDate", "employDate", "identityType", "sex"}) {
+        auto* field = child<QWidget>(m_form, name);
+        const QPoint at = field->rect().center();
+        QWheelEvent wheel(at, field->mapToGlobal(at), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(field, &wheel);
+        QVERIFY2(!wheel.isAccepted(), name); // goes on to what scrolls
+    }
+    QCOMPARE(m_form->getPersonInfo().birthDate, stored().birthDate);
+    QCOMPARE(m_form->getPersonInfo().employDate, stored().employDate);
+    QCOMPARE(m_form->getPersonInfo().identityType, stored().identityType);
+    QCOMPARE(m_form->getPersonInfo().sex, stored().sex);
 }
 
 void tst_PersonInfoModifyWt::picksThePeriod()

@@ -22,6 +22,7 @@ private slots:
     void hasItsSizes();
     void marksItsStyles();
     void declaresItsSlotsInOrder();
+    void showsEveryTextInANarrowWindow();
     void keepsTheHeaderAboveTheColumns_data();
     void keepsTheHeaderAboveTheColumns();
 
@@ -151,6 +152,14 @@ void tst_PersonMgrFormLayout::declaresItsSlotsInOrder()
                           "slotSynchronizeToDevBtClicked", "slotSynchronizeFromDevBtClicked",
                           "slotCurPagePersons", "slotAddPersonsToLocalDB", "slotUpdatePersonInLocalDB",
                           "slotDeletePersonsFromLocalDB"}));
+}
+
+void tst_PersonMgrFormLayout::showsEveryTextInANarrowWindow()
+{
+    m_page->open(QSize(1, 1));
+    const auto buttons = m_page->form->findChildren<qarn_base::IconButton*>();
+    for (const qarn_base::IconButton* button : buttons)
+        QVERIFY2(button->width() >= button->sizeHint().width(), qPrintable(button->objectName()));
 }
 
 void tst_PersonMgrFormLayout::keepsTheHeaderAboveTheColumns_data()

@@ -19,7 +19,7 @@ struct Header {
 
     QByteArray file(int size) const
     {
-        QByteArray bytes(size, '\0');
+        QByteArray bytes(8192, '\0');
         bytes.replace(0, 16, QByteArray("SQLite format 3", 16));
         const auto put = [&bytes](int offset, qint32 number) { qToBigEndian(number, bytes.data() + offset); };
         qToBigEndian(qint16(4096), bytes.data() + 16);
@@ -28,7 +28,7 @@ struct Header {
         put(60, version);
         put(68, application);
         put(92, 5);
-        return bytes;
+        return bytes.left(size);
     }
 };
 
