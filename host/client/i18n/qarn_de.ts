@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AddressRules</name>
+    <message>
+        <location filename="../devices/AddressRules.cpp" line="+18"/>
+        <source>Enter an address such as 192.168.1.20 or https://gate.local:8443</source>
+        <translation>Geben Sie eine Adresse ein, etwa 192.168.1.20 oder https://gate.local:8443</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The address must begin with http:// or https://</source>
+        <translation>Die Adresse muss mit http:// oder https:// beginnen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The address must hold no user name, ? or #</source>
+        <translation>Die Adresse darf keinen Benutzernamen, kein ? und kein # enthalten</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>A token has only letters, digits and signs of the English keyboard, and no blanks</source>
+        <translation>Ein Token besteht nur aus Buchstaben, Ziffern und Zeichen der englischen Tastatur, ohne Leerzeichen</translation>
+    </message>
+</context>
+<context>
     <name>AlertHistoryDlg</name>
     <message>
         <location filename="../alerts/AlertHistoryDlg.cpp" line="+23"/>
@@ -36,9 +59,62 @@
     </message>
 </context>
 <context>
+    <name>CertificateDlg</name>
+    <message>
+        <location filename="../devices/CertificateDlg.cpp" line="+43"/>
+        <source>Certificate of %1</source>
+        <translation>Zertifikat von %1</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>This device shows a certificate that the system does not trust. Compare the fingerprint with the one that the device itself displays. Trust it only when both are the same: otherwise someone may be standing between you and the device.</source>
+        <translation>Dieses Gerät zeigt ein Zertifikat, dem das System nicht vertraut. Vergleichen Sie den Fingerabdruck mit dem, den das Gerät selbst anzeigt. Vertrauen Sie ihm nur, wenn beide gleich sind: Sonst steht vielleicht jemand zwischen Ihnen und dem Gerät.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Trust this certificate</source>
+        <translation>Diesem Zertifikat vertrauen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>Issued to</source>
+        <translation>Ausgestellt für</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Issued by</source>
+        <translation>Ausgestellt von</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Valid</source>
+        <translation>Gültig</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Fingerprint (SHA-256)</source>
+        <translation>Fingerabdruck (SHA-256)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Not trusted because</source>
+        <translation>Nicht vertraut, weil</translation>
+    </message>
+</context>
+<context>
     <name>DemoDevice</name>
     <message>
-        <location filename="../demo/DemoDevice.cpp" line="+63"/>
+        <location filename="../demo/DemoDevice.cpp" line="+76"/>
         <source>The simulated device cannot be started: is face-device-sim installed beside the client?</source>
         <translation>Das simulierte Gerät startet nicht: Ist face-device-sim neben dem Programm installiert?</translation>
     </message>
@@ -59,6 +135,191 @@
     </message>
 </context>
 <context>
+    <name>DeviceDlg</name>
+    <message>
+        <location filename="../devices/DeviceDlg.cpp" line="+36"/>
+        <source>Add device</source>
+        <translation>Gerät hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Edit device</source>
+        <translation>Gerät bearbeiten</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Address</source>
+        <translation>Anschrift</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>192.168.1.20 or https://gate.local:8443</source>
+        <translation>192.168.1.20 oder https://gate.local:8443</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Token</source>
+        <translation>Token</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>As set on the device; empty for none</source>
+        <translation>Wie am Gerät eingestellt; leer für keines</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Empty: the name that the device gives itself</source>
+        <translation>Leer: der Name, den das Gerät sich gibt</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <location line="+40"/>
+        <source>%1 has this address already. Enter another one.</source>
+        <translation>%1 hat diese Adresse schon. Geben Sie eine andere ein.</translation>
+    </message>
+    <message>
+        <location line="+34"/>
+        <source>Asking the device for its channels...</source>
+        <translation>Kanäle werden vom Gerät gelesen...</translation>
+    </message>
+    <message>
+        <location line="+43"/>
+        <source>The store did not take the device. The alert tells why.</source>
+        <translation>Das Register hat das Gerät nicht angenommen. Die Meldung nennt den Grund.</translation>
+    </message>
+</context>
+<context>
+    <name>DevicesModel</name>
+    <message>
+        <location filename="../devices/DevicesModel.cpp" line="+129"/>
+        <source>Certificate not trusted</source>
+        <translation>Zertifikat nicht vertraut</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Token refused</source>
+        <translation>Token abgelehnt</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Online</source>
+        <translation>Erreichbar</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Offline</source>
+        <translation>Nicht erreichbar</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Not tested yet</source>
+        <translation>Noch nicht getestet</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Address</source>
+        <translation>Anschrift</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Channels</source>
+        <translation>Kanäle</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+</context>
+<context>
+    <name>DevicesPage</name>
+    <message>
+        <location filename="../devices/DevicesPage.cpp" line="+52"/>
+        <source>Add device</source>
+        <translation>Gerät hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Test connection</source>
+        <translation>Testen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>No devices yet.
+
+Press &quot;Add device&quot; and enter the address of a face-recognition device.
+Its channels can then receive the faces of the register.</source>
+        <translation>Noch keine Geräte.
+
+Drücken Sie „Gerät hinzufügen“ und geben Sie die Adresse eines Gesichtserkennungsgeräts ein.
+Seine Kanäle können dann die Gesichter des Registers empfangen.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Devices</source>
+        <translation>Geräte</translation>
+    </message>
+    <message>
+        <location line="+108"/>
+        <source>Testing %1...</source>
+        <translation>%1 wird getestet...</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Remove the device &quot;%1&quot;? The faces that it holds stay on it.</source>
+        <translation>Das Gerät „%1“ entfernen? Seine Gesichter bleiben auf ihm.</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 answered within %2 ms and has %3 channel(s).</source>
+        <translation>%1 hat nach %2 ms geantwortet; Kanäle: %3.</translation>
+    </message>
+</context>
+<context>
     <name>Language</name>
     <message>
         <location filename="../startup/Language.cpp" line="+11"/>
@@ -74,9 +335,14 @@
         <translation>Vorführung</translation>
     </message>
     <message>
-        <location filename="../window/MainWindow.cpp" line="+44"/>
+        <location filename="../window/MainWindow.cpp" line="+45"/>
         <source>Persons</source>
         <translation>Personen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Devices</source>
+        <translation>Geräte</translation>
     </message>
     <message>
         <location line="+15"/>
@@ -444,7 +710,7 @@
 <context>
     <name>qarn_base::DatetimeSpanSelWt</name>
     <message>
-        <location filename="../../qarn_base/DatetimeSpanSelWt.cpp" line="+78"/>
+        <location filename="../../qarn_base/DatetimeSpanSelWt.cpp" line="+79"/>
         <location line="+16"/>
         <source>Start</source>
         <translation>Beginn</translation>
@@ -617,7 +883,7 @@
 <context>
     <name>qarn_base::SearchBox</name>
     <message>
-        <location filename="../../qarn_base/SearchBox.cpp" line="+14"/>
+        <location filename="../../qarn_base/SearchBox.cpp" line="+15"/>
         <location line="+1"/>
         <source>Search</source>
         <translation>Suchen</translation>
@@ -684,7 +950,7 @@
     <name>qarn_data</name>
     <message>
         <location filename="../../qarn_data/Backup.cpp" line="+36"/>
-        <location filename="../../qarn_data/StoreFile.cpp" line="+106"/>
+        <location filename="../../qarn_data/StoreFile.cpp" line="+113"/>
         <source>It is a folder. Choose a file.</source>
         <translation>Das ist ein Ordner. Wählen Sie eine Datei.</translation>
     </message>
@@ -815,7 +1081,7 @@
         <translation>Personen wurden nicht gelöscht</translation>
     </message>
     <message>
-        <location filename="../../qarn_data/StoreFile.cpp" line="-74"/>
+        <location filename="../../qarn_data/StoreFile.cpp" line="-81"/>
         <source>The folder does not exist. Create it or choose another place.</source>
         <translation>Den Ordner gibt es nicht. Legen Sie ihn an oder wählen Sie einen anderen Ort.</translation>
     </message>
@@ -830,7 +1096,7 @@
         <translation>Der Ordner ist schreibgeschützt, das Register braucht aber Platz neben seiner Datei. Geben Sie sich dort Schreibrecht.</translation>
     </message>
     <message>
-        <location line="+40"/>
+        <location line="+48"/>
         <source>The file cannot be read: %1.</source>
         <translation>Die Datei kann nicht gelesen werden: %1.</translation>
     </message>
@@ -840,7 +1106,7 @@
         <translation>Die Datei ist kein Personenregister. Wählen Sie eine andere.</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+5"/>
         <source>The file belongs to another program. Choose another file.</source>
         <translation>Die Datei gehört einem anderen Programm. Wählen Sie eine andere.</translation>
     </message>
@@ -850,7 +1116,7 @@
         <translation>Die Datei stammt von einer neueren Version (%1, bekannt ist %2). Aktualisieren Sie dieses Programm.</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+5"/>
         <source>The file is damaged: its end is missing. Restore it from a backup.</source>
         <translation>Die Datei ist beschädigt: Ihr Ende fehlt. Stellen Sie sie aus einer Sicherung wieder her.</translation>
     </message>
@@ -961,7 +1227,7 @@
 <context>
     <name>qarn_data::SqlStore</name>
     <message>
-        <location filename="../../qarn_data/SqlStore.cpp" line="+69"/>
+        <location filename="../../qarn_data/SqlStore.cpp" line="+72"/>
         <source>The file was written by a newer version. Update this program.</source>
         <translation>Die Datei stammt von einer neueren Version. Aktualisieren Sie dieses Programm.</translation>
     </message>
@@ -1109,7 +1375,7 @@
         <translation>Dieses eigene Feld löschen?</translation>
     </message>
     <message>
-        <location line="+59"/>
+        <location line="+60"/>
         <source>custom field name has exist</source>
         <translation>Diesen Feldnamen gibt es schon</translation>
     </message>
@@ -1118,12 +1384,12 @@
     <name>qarn_personMgr::ExportPersonsDlg</name>
     <message>
         <location filename="../../../personMgr/transfer/ExportPersonsDlg.ui" line="+49"/>
-        <location line="+367"/>
+        <location line="+370"/>
         <source>Export</source>
         <translation>Exportieren</translation>
     </message>
     <message>
-        <location line="-355"/>
+        <location line="-358"/>
         <source>Person Info</source>
         <translation>Angaben zur Person</translation>
     </message>
@@ -1138,68 +1404,64 @@
         <translation>Auch Personen untergeordneter Organisationen</translation>
     </message>
     <message>
-        <location line="+22"/>
+        <location line="+19"/>
+        <location line="+26"/>
+        <location line="+129"/>
         <source>Sel expot colums</source>
         <translation>Spalten wählen</translation>
     </message>
     <message>
-        <location line="+26"/>
-        <location line="+126"/>
-        <source>background: #0e1622;</source>
-        <translation>background: #0e1622;</translation>
-    </message>
-    <message>
         <location line="-102"/>
-        <location line="+126"/>
+        <location line="+129"/>
         <source>Sel All Columns</source>
         <translation>Alle Spalten</translation>
     </message>
     <message>
-        <location line="-118"/>
-        <location line="+126"/>
+        <location line="-121"/>
+        <location line="+129"/>
         <source>Serail Num</source>
         <translation>Seriennummer</translation>
     </message>
     <message>
-        <location line="-118"/>
-        <location line="+126"/>
+        <location line="-121"/>
+        <location line="+129"/>
         <source>Person Name</source>
         <translation>Name</translation>
     </message>
     <message>
-        <location line="-118"/>
+        <location line="-121"/>
         <location filename="../../../personMgr/transfer/ExportPersonsDlg.cpp" line="+32"/>
         <source>Organization</source>
         <translation>Organisation</translation>
     </message>
     <message>
         <location line="+8"/>
-        <location line="+118"/>
+        <location line="+121"/>
         <source>Gender</source>
         <translation>Geschlecht</translation>
     </message>
     <message>
-        <location line="-110"/>
+        <location line="-113"/>
         <location filename="../../../personMgr/transfer/ExportPersonsDlg.cpp" line="+2"/>
         <source>Email</source>
         <translation>E-Mail</translation>
     </message>
     <message>
         <location line="+8"/>
-        <location line="+110"/>
+        <location line="+113"/>
         <location filename="../../../personMgr/transfer/ExportPersonsDlg.cpp" line="+1"/>
         <source>Phone Num</source>
         <translation>Telefon</translation>
     </message>
     <message>
-        <location line="-102"/>
-        <location line="+110"/>
+        <location line="-105"/>
+        <location line="+113"/>
         <location filename="../../../personMgr/transfer/ExportPersonsDlg.cpp" line="+1"/>
         <source>Identity ID</source>
         <translation>Ausweisnummer</translation>
     </message>
     <message>
-        <location line="-102"/>
+        <location line="-105"/>
         <location filename="../../../personMgr/transfer/ExportPersonsDlg.cpp" line="+1"/>
         <source>Valid Time</source>
         <translation>Gültig ab</translation>
@@ -1211,7 +1473,7 @@
         <translation>Gültig bis</translation>
     </message>
     <message>
-        <location line="+126"/>
+        <location line="+129"/>
         <source>Column order</source>
         <translation>Reihenfolge</translation>
     </message>
@@ -1249,13 +1511,13 @@
         <translation>Gesicht hinzufügen</translation>
     </message>
     <message>
-        <location filename="../../../personMgr/editor/FaceImageModifyWt.cpp" line="+60"/>
+        <location filename="../../../personMgr/editor/FaceImageModifyWt.cpp" line="+59"/>
         <location line="+1"/>
         <source>delete</source>
         <translation>löschen</translation>
     </message>
     <message>
-        <location line="+38"/>
+        <location line="+41"/>
         <source>Click to change face Iamge</source>
         <translation>Klicken, um das Bild zu ändern</translation>
     </message>
@@ -1284,12 +1546,12 @@
     <name>qarn_personMgr::ImportPersonsDlg</name>
     <message>
         <location filename="../../../personMgr/transfer/ImportPersonsDlg.ui" line="+49"/>
-        <location line="+306"/>
+        <location line="+301"/>
         <source>Import</source>
         <translation>Importieren</translation>
     </message>
     <message>
-        <location line="-294"/>
+        <location line="-289"/>
         <source>Person Info</source>
         <translation>Angaben zur Person</translation>
     </message>
@@ -1304,12 +1566,7 @@
         <translation>Datei</translation>
     </message>
     <message>
-        <location line="+49"/>
-        <source>color: #2c7dce; font-size: 13px; text-decoration: underline; background: transparent;</source>
-        <translation>color: #2c7dce; font-size: 13px; text-decoration: underline; background: transparent;</translation>
-    </message>
-    <message>
-        <location line="+3"/>
+        <location line="+56"/>
         <source>Download personnel import template</source>
         <translation>Importvorlage speichern</translation>
     </message>
@@ -1329,24 +1586,19 @@
         <translation>Seriennummer</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+10"/>
         <source>PersonName</source>
         <translation>Name</translation>
     </message>
     <message>
-        <location line="+13"/>
-        <location filename="../../../personMgr/transfer/ImportPersonsDlg.cpp" line="+49"/>
+        <location line="+10"/>
+        <location filename="../../../personMgr/transfer/ImportPersonsDlg.cpp" line="+58"/>
         <location line="+21"/>
         <source>Sex</source>
         <translation>Geschlecht</translation>
     </message>
     <message>
         <location line="+28"/>
-        <source>color: #6c7586;</source>
-        <translation>color: #6c7586;</translation>
-    </message>
-    <message>
-        <location line="+3"/>
         <source>1.Single picture less than 200K
 2.Format only supports jpg
 3.sex:Male,Female</source>
@@ -1377,7 +1629,7 @@
         <translation>Name</translation>
     </message>
     <message>
-        <location line="+40"/>
+        <location line="+42"/>
         <source>Select Person faces dir</source>
         <translation>Verzeichnis mit Bildern wählen</translation>
     </message>
@@ -1417,7 +1669,7 @@
         <translation>Importvorlage nicht gespeichert</translation>
     </message>
     <message>
-        <location filename="../../../personMgr/transfer/PersonFileFormat.cpp" line="+39"/>
+        <location filename="../../../personMgr/transfer/PersonFileFormat.cpp" line="+51"/>
         <source>Rules:</source>
         <translation>Regeln:</translation>
     </message>
@@ -1442,12 +1694,12 @@
         <translation>4. Ebenen der Organisation durch / trennen</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+24"/>
         <source>*Serial Num</source>
         <translation>*Seriennummer</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-20"/>
         <source>*Person Name</source>
         <translation>*Name</translation>
     </message>
@@ -1485,12 +1737,7 @@
 <context>
     <name>qarn_personMgr::ImportPersonsThread</name>
     <message>
-        <location filename="../../../personMgr/transfer/ImportPersonsThread.cpp" line="+81"/>
-        <source>*Serial Num</source>
-        <translation>*Seriennummer</translation>
-    </message>
-    <message>
-        <location line="+2"/>
+        <location filename="../../../personMgr/transfer/ImportPersonsThread.cpp" line="+83"/>
         <source>Failed to open the file containing face information</source>
         <translation>Die Datei mit den Angaben lässt sich nicht öffnen</translation>
     </message>
@@ -1518,7 +1765,7 @@
 <context>
     <name>qarn_personMgr::PersonCustomInfoWt</name>
     <message>
-        <location filename="../../../personMgr/editor/PersonCustomInfoWt.cpp" line="+36"/>
+        <location filename="../../../personMgr/editor/PersonCustomInfoWt.cpp" line="+37"/>
         <source>Please add custom field first</source>
         <translation>Legen Sie zuerst eigene Felder an</translation>
     </message>
@@ -1738,7 +1985,7 @@
         <translation>Eigene Felder</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+26"/>
         <source>Extra Info</source>
         <translation>Weitere Angaben</translation>
     </message>
@@ -1800,12 +2047,12 @@
     </message>
     <message>
         <location line="+84"/>
-        <location line="+125"/>
+        <location line="+128"/>
         <source>Organizations</source>
         <translation>Organisationen</translation>
     </message>
     <message>
-        <location line="-93"/>
+        <location line="-96"/>
         <location line="+3"/>
         <source>add organization</source>
         <translation>Organisation hinzufügen</translation>
@@ -1818,30 +2065,31 @@
     </message>
     <message>
         <location line="+51"/>
+        <location line="+3"/>
         <source>display child organization person</source>
         <translation>auch untergeordnete anzeigen</translation>
     </message>
     <message>
         <location line="+100"/>
         <location line="+19"/>
-        <location line="+538"/>
+        <location line="+539"/>
         <source>Name</source>
         <translation>Name</translation>
     </message>
     <message>
-        <location line="-535"/>
+        <location line="-536"/>
         <source>Please input name...</source>
         <translation>Name...</translation>
     </message>
     <message>
         <location line="+38"/>
         <location line="+19"/>
-        <location line="+453"/>
+        <location line="+454"/>
         <source>Serial Num</source>
         <translation>Seriennummer</translation>
     </message>
     <message>
-        <location line="-450"/>
+        <location line="-451"/>
         <source>Please input serail num...</source>
         <translation>Seriennummer...</translation>
     </message>
@@ -1877,7 +2125,7 @@
         <translation>Suchen</translation>
     </message>
     <message>
-        <location line="+55"/>
+        <location line="+56"/>
         <source>Add Person</source>
         <translation>Person anlegen</translation>
     </message>
@@ -2088,7 +2336,7 @@
 <context>
     <name>qarn_personMgr::PersonMgrTree</name>
     <message>
-        <location filename="../../../personMgr/tree/PersonMgrTree.cpp" line="+47"/>
+        <location filename="../../../personMgr/tree/PersonMgrTree.cpp" line="+49"/>
         <source>Please select which organization to add to</source>
         <translation>Wählen Sie die übergeordnete Organisation</translation>
     </message>
@@ -2108,7 +2356,7 @@
         <translation>Neue Organisation</translation>
     </message>
     <message>
-        <location line="+16"/>
+        <location line="+15"/>
         <source>Add Organization</source>
         <translation>Organisation anlegen</translation>
     </message>
@@ -2118,7 +2366,7 @@
         <translation>Organisation bearbeiten</translation>
     </message>
     <message>
-        <location line="+34"/>
+        <location line="+35"/>
         <source>organization has persons, can not be deleted</source>
         <translation>Die Organisation enthält Personen und kann nicht gelöscht werden</translation>
     </message>
@@ -2131,7 +2379,7 @@
 <context>
     <name>qarn_personMgr::PersonsTableWt</name>
     <message>
-        <location filename="../../../personMgr/table/PersonsTableWt.cpp" line="+151"/>
+        <location filename="../../../personMgr/table/PersonsTableWt.cpp" line="+152"/>
         <source>No persons to show. Select another organization, change the filters, or add persons.</source>
         <translation>Keine Personen. Wählen Sie eine andere Organisation, ändern Sie die Filter oder legen Sie Personen an.</translation>
     </message>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>AddressRules</name>
+    <message>
+        <location filename="../devices/AddressRules.cpp" line="+18"/>
+        <source>Enter an address such as 192.168.1.20 or https://gate.local:8443</source>
+        <translation>请输入地址，例如 192.168.1.20 或 https://gate.local:8443</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The address must begin with http:// or https://</source>
+        <translation>地址必须以 http:// 或 https:// 开头</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The address must hold no user name, ? or #</source>
+        <translation>地址不能包含用户名、? 或 #</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>A token has only letters, digits and signs of the English keyboard, and no blanks</source>
+        <translation>令牌只能包含英文字母、数字和英文符号，且不能有空格</translation>
+    </message>
+</context>
+<context>
     <name>AlertHistoryDlg</name>
     <message>
         <location filename="../alerts/AlertHistoryDlg.cpp" line="+23"/>
@@ -36,9 +59,62 @@
     </message>
 </context>
 <context>
+    <name>CertificateDlg</name>
+    <message>
+        <location filename="../devices/CertificateDlg.cpp" line="+43"/>
+        <source>Certificate of %1</source>
+        <translation>%1 的证书</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>This device shows a certificate that the system does not trust. Compare the fingerprint with the one that the device itself displays. Trust it only when both are the same: otherwise someone may be standing between you and the device.</source>
+        <translation>该设备出示的证书不受系统信任。请将指纹与设备自身显示的指纹比对。仅当两者一致时才信任：否则您与设备之间可能存在中间人。</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Trust this certificate</source>
+        <translation>信任此证书</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>Issued to</source>
+        <translation>颁发给</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Issued by</source>
+        <translation>颁发者</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Valid</source>
+        <translation>有效</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 to %2</source>
+        <translation>%1 至 %2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Fingerprint (SHA-256)</source>
+        <translation>指纹 (SHA-256)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Not trusted because</source>
+        <translation>不受信任的原因</translation>
+    </message>
+</context>
+<context>
     <name>DemoDevice</name>
     <message>
-        <location filename="../demo/DemoDevice.cpp" line="+63"/>
+        <location filename="../demo/DemoDevice.cpp" line="+76"/>
         <source>The simulated device cannot be started: is face-device-sim installed beside the client?</source>
         <translation>无法启动模拟设备：face-device-sim 是否与客户端安装在同一位置？</translation>
     </message>
@@ -59,6 +135,191 @@
     </message>
 </context>
 <context>
+    <name>DeviceDlg</name>
+    <message>
+        <location filename="../devices/DeviceDlg.cpp" line="+36"/>
+        <source>Add device</source>
+        <translation>添加设备</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Edit device</source>
+        <translation>编辑设备</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Address</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>192.168.1.20 or https://gate.local:8443</source>
+        <translation>192.168.1.20 或 https://gate.local:8443</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Token</source>
+        <translation>令牌</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>As set on the device; empty for none</source>
+        <translation>与设备上的设置一致；无则留空</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Name</source>
+        <translation>姓名</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Empty: the name that the device gives itself</source>
+        <translation>留空：使用设备自身的名称</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <location line="+40"/>
+        <source>%1 has this address already. Enter another one.</source>
+        <translation>%1 已使用该地址。请输入其他地址。</translation>
+    </message>
+    <message>
+        <location line="+34"/>
+        <source>Asking the device for its channels...</source>
+        <translation>正在向设备查询通道...</translation>
+    </message>
+    <message>
+        <location line="+43"/>
+        <source>The store did not take the device. The alert tells why.</source>
+        <translation>人员库未接受该设备。原因见提示消息。</translation>
+    </message>
+</context>
+<context>
+    <name>DevicesModel</name>
+    <message>
+        <location filename="../devices/DevicesModel.cpp" line="+129"/>
+        <source>Certificate not trusted</source>
+        <translation>证书不受信任</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Token refused</source>
+        <translation>令牌被拒绝</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Online</source>
+        <translation>在线</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Offline</source>
+        <translation>离线</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Not tested yet</source>
+        <translation>尚未测试</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Name</source>
+        <translation>姓名</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Address</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Channels</source>
+        <translation>通道</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+</context>
+<context>
+    <name>DevicesPage</name>
+    <message>
+        <location filename="../devices/DevicesPage.cpp" line="+52"/>
+        <source>Add device</source>
+        <translation>添加设备</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Test connection</source>
+        <translation>测试连接</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>No devices yet.
+
+Press &quot;Add device&quot; and enter the address of a face-recognition device.
+Its channels can then receive the faces of the register.</source>
+        <translation>暂无设备。
+
+请点击“添加设备”并输入人脸识别设备的地址。
+之后其通道即可接收人员库中的人脸。</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Devices</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <location line="+108"/>
+        <source>Testing %1...</source>
+        <translation>正在测试 %1...</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Remove the device &quot;%1&quot;? The faces that it holds stay on it.</source>
+        <translation>确定要移除设备“%1”吗？设备上的人脸将保留。</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 answered within %2 ms and has %3 channel(s).</source>
+        <translation>%1 在 %2 毫秒内响应，共有 %3 个通道。</translation>
+    </message>
+</context>
+<context>
     <name>Language</name>
     <message>
         <location filename="../startup/Language.cpp" line="+11"/>
@@ -74,9 +335,14 @@
         <translation>演示</translation>
     </message>
     <message>
-        <location filename="../window/MainWindow.cpp" line="+44"/>
+        <location filename="../window/MainWindow.cpp" line="+45"/>
         <source>Persons</source>
         <translation>人员</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Devices</source>
+        <translation>设备</translation>
     </message>
     <message>
         <location line="+15"/>
@@ -444,7 +710,7 @@
 <context>
     <name>qarn_base::DatetimeSpanSelWt</name>
     <message>
-        <location filename="../../qarn_base/DatetimeSpanSelWt.cpp" line="+78"/>
+        <location filename="../../qarn_base/DatetimeSpanSelWt.cpp" line="+79"/>
         <location line="+16"/>
         <source>Start</source>
         <translation>开始</translation>
@@ -617,7 +883,7 @@
 <context>
     <name>qarn_base::SearchBox</name>
     <message>
-        <location filename="../../qarn_base/SearchBox.cpp" line="+14"/>
+        <location filename="../../qarn_base/SearchBox.cpp" line="+15"/>
         <location line="+1"/>
         <source>Search</source>
         <translation>搜索</translation>
@@ -684,7 +950,7 @@
     <name>qarn_data</name>
     <message>
         <location filename="../../qarn_data/Backup.cpp" line="+36"/>
-        <location filename="../../qarn_data/StoreFile.cpp" line="+106"/>
+        <location filename="../../qarn_data/StoreFile.cpp" line="+113"/>
         <source>It is a folder. Choose a file.</source>
         <translation>这是一个文件夹。请选择文件。</translation>
     </message>
@@ -815,7 +1081,7 @@
         <translation>无法删除人员</translation>
     </message>
     <message>
-        <location filename="../../qarn_data/StoreFile.cpp" line="-74"/>
+        <location filename="../../qarn_data/StoreFile.cpp" line="-81"/>
         <source>The folder does not exist. Create it or choose another place.</source>
         <translation>文件夹不存在。请创建或选择其他位置。</translation>
     </message>
@@ -830,7 +1096,7 @@
         <translation>文件夹为只读，而人员库需要在文件旁写入。请授予写入权限。</translation>
     </message>
     <message>
-        <location line="+40"/>
+        <location line="+48"/>
         <source>The file cannot be read: %1.</source>
         <translation>无法读取文件：%1。</translation>
     </message>
@@ -840,7 +1106,7 @@
         <translation>该文件不是人员库。请选择其他文件。</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+5"/>
         <source>The file belongs to another program. Choose another file.</source>
         <translation>该文件属于其他程序。请选择其他文件。</translation>
     </message>
@@ -850,7 +1116,7 @@
         <translation>该文件由较新版本写入（%1，本程序支持 %2）。请更新本程序。</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+5"/>
         <source>The file is damaged: its end is missing. Restore it from a backup.</source>
         <translation>文件已损坏：结尾缺失。请从备份恢复。</translation>
     </message>
@@ -961,7 +1227,7 @@
 <context>
     <name>qarn_data::SqlStore</name>
     <message>
-        <location filename="../../qarn_data/SqlStore.cpp" line="+69"/>
+        <location filename="../../qarn_data/SqlStore.cpp" line="+72"/>
         <source>The file was written by a newer version. Update this program.</source>
         <translation>该文件由较新版本写入。请更新本程序。</translation>
     </message>
@@ -1109,7 +1375,7 @@
         <translation>确定要删除该自定义字段吗？</translation>
     </message>
     <message>
-        <location line="+59"/>
+        <location line="+60"/>
         <source>custom field name has exist</source>
         <translation>自定义字段名称已存在</translation>
     </message>
@@ -1118,12 +1384,12 @@
     <name>qarn_personMgr::ExportPersonsDlg</name>
     <message>
         <location filename="../../../personMgr/transfer/ExportPersonsDlg.ui" line="+49"/>
-        <location line="+367"/>
+        <location line="+370"/>
         <source>Export</source>
         <translation>导出</translation>
     </message>
     <message>
-        <location line="-355"/>
+        <location line="-358"/>
         <source>Person Info</source>
         <translation>人员信息</translation>
     </message>
@@ -1138,68 +1404,64 @@
         <translation>导出下级组织人员</translation>
     </message>
     <message>
-        <location line="+22"/>
+        <location line="+19"/>
+        <location line="+26"/>
+        <location line="+129"/>
         <source>Sel expot colums</source>
         <translation>选择导出列</translation>
     </message>
     <message>
-        <location line="+26"/>
-        <location line="+126"/>
-        <source>background: #0e1622;</source>
-        <translation>background: #0e1622;</translation>
-    </message>
-    <message>
         <location line="-102"/>
-        <location line="+126"/>
+        <location line="+129"/>
         <source>Sel All Columns</source>
         <translation>选择所有列</translation>
     </message>
     <message>
-        <location line="-118"/>
-        <location line="+126"/>
+        <location line="-121"/>
+        <location line="+129"/>
         <source>Serail Num</source>
         <translation>编号</translation>
     </message>
     <message>
-        <location line="-118"/>
-        <location line="+126"/>
+        <location line="-121"/>
+        <location line="+129"/>
         <source>Person Name</source>
         <translation>姓名</translation>
     </message>
     <message>
-        <location line="-118"/>
+        <location line="-121"/>
         <location filename="../../../personMgr/transfer/ExportPersonsDlg.cpp" line="+32"/>
         <source>Organization</source>
         <translation>组织</translation>
     </message>
     <message>
         <location line="+8"/>
-        <location line="+118"/>
+        <location line="+121"/>
         <source>Gender</source>
         <translation>性别</translation>
     </message>
     <message>
-        <location line="-110"/>
+        <location line="-113"/>
         <location filename="../../../personMgr/transfer/ExportPersonsDlg.cpp" line="+2"/>
         <source>Email</source>
         <translation>邮箱</translation>
     </message>
     <message>
         <location line="+8"/>
-        <location line="+110"/>
+        <location line="+113"/>
         <location filename="../../../personMgr/transfer/ExportPersonsDlg.cpp" line="+1"/>
         <source>Phone Num</source>
         <translation>电话</translation>
     </message>
     <message>
-        <location line="-102"/>
-        <location line="+110"/>
+        <location line="-105"/>
+        <location line="+113"/>
         <location filename="../../../personMgr/transfer/ExportPersonsDlg.cpp" line="+1"/>
         <source>Identity ID</source>
         <translation>证件号</translation>
     </message>
     <message>
-        <location line="-102"/>
+        <location line="-105"/>
         <location filename="../../../personMgr/transfer/ExportPersonsDlg.cpp" line="+1"/>
         <source>Valid Time</source>
         <translation>生效时间</translation>
@@ -1211,7 +1473,7 @@
         <translation>失效时间</translation>
     </message>
     <message>
-        <location line="+126"/>
+        <location line="+129"/>
         <source>Column order</source>
         <translation>列顺序</translation>
     </message>
@@ -1249,13 +1511,13 @@
         <translation>添加人脸</translation>
     </message>
     <message>
-        <location filename="../../../personMgr/editor/FaceImageModifyWt.cpp" line="+60"/>
+        <location filename="../../../personMgr/editor/FaceImageModifyWt.cpp" line="+59"/>
         <location line="+1"/>
         <source>delete</source>
         <translation>删除</translation>
     </message>
     <message>
-        <location line="+38"/>
+        <location line="+41"/>
         <source>Click to change face Iamge</source>
         <translation>点击更换人脸图片</translation>
     </message>
@@ -1284,12 +1546,12 @@
     <name>qarn_personMgr::ImportPersonsDlg</name>
     <message>
         <location filename="../../../personMgr/transfer/ImportPersonsDlg.ui" line="+49"/>
-        <location line="+306"/>
+        <location line="+301"/>
         <source>Import</source>
         <translation>导入</translation>
     </message>
     <message>
-        <location line="-294"/>
+        <location line="-289"/>
         <source>Person Info</source>
         <translation>人员信息</translation>
     </message>
@@ -1304,12 +1566,7 @@
         <translation>导入文件</translation>
     </message>
     <message>
-        <location line="+49"/>
-        <source>color: #2c7dce; font-size: 13px; text-decoration: underline; background: transparent;</source>
-        <translation>color: #2c7dce; font-size: 13px; text-decoration: underline; background: transparent;</translation>
-    </message>
-    <message>
-        <location line="+3"/>
+        <location line="+56"/>
         <source>Download personnel import template</source>
         <translation>下载人员导入模板</translation>
     </message>
@@ -1329,24 +1586,19 @@
         <translation>编号</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+10"/>
         <source>PersonName</source>
         <translation>姓名</translation>
     </message>
     <message>
-        <location line="+13"/>
-        <location filename="../../../personMgr/transfer/ImportPersonsDlg.cpp" line="+49"/>
+        <location line="+10"/>
+        <location filename="../../../personMgr/transfer/ImportPersonsDlg.cpp" line="+58"/>
         <location line="+21"/>
         <source>Sex</source>
         <translation>性别</translation>
     </message>
     <message>
         <location line="+28"/>
-        <source>color: #6c7586;</source>
-        <translation>color: #6c7586;</translation>
-    </message>
-    <message>
-        <location line="+3"/>
         <source>1.Single picture less than 200K
 2.Format only supports jpg
 3.sex:Male,Female</source>
@@ -1377,7 +1629,7 @@
         <translation>姓名</translation>
     </message>
     <message>
-        <location line="+40"/>
+        <location line="+42"/>
         <source>Select Person faces dir</source>
         <translation>选择人脸图片目录</translation>
     </message>
@@ -1417,7 +1669,7 @@
         <translation>人员导入模板下载失败</translation>
     </message>
     <message>
-        <location filename="../../../personMgr/transfer/PersonFileFormat.cpp" line="+39"/>
+        <location filename="../../../personMgr/transfer/PersonFileFormat.cpp" line="+51"/>
         <source>Rules:</source>
         <translation>规则：</translation>
     </message>
@@ -1442,12 +1694,12 @@
         <translation>4. 组织层级使用 / 分隔</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+24"/>
         <source>*Serial Num</source>
         <translation>*编号</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-20"/>
         <source>*Person Name</source>
         <translation>*姓名</translation>
     </message>
@@ -1485,12 +1737,7 @@
 <context>
     <name>qarn_personMgr::ImportPersonsThread</name>
     <message>
-        <location filename="../../../personMgr/transfer/ImportPersonsThread.cpp" line="+81"/>
-        <source>*Serial Num</source>
-        <translation>*编号</translation>
-    </message>
-    <message>
-        <location line="+2"/>
+        <location filename="../../../personMgr/transfer/ImportPersonsThread.cpp" line="+83"/>
         <source>Failed to open the file containing face information</source>
         <translation>打开包含人脸信息的文件失败</translation>
     </message>
@@ -1518,7 +1765,7 @@
 <context>
     <name>qarn_personMgr::PersonCustomInfoWt</name>
     <message>
-        <location filename="../../../personMgr/editor/PersonCustomInfoWt.cpp" line="+36"/>
+        <location filename="../../../personMgr/editor/PersonCustomInfoWt.cpp" line="+37"/>
         <source>Please add custom field first</source>
         <translation>请先添加自定义字段</translation>
     </message>
@@ -1738,7 +1985,7 @@
         <translation>自定义信息</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+26"/>
         <source>Extra Info</source>
         <translation>附加信息</translation>
     </message>
@@ -1800,12 +2047,12 @@
     </message>
     <message>
         <location line="+84"/>
-        <location line="+125"/>
+        <location line="+128"/>
         <source>Organizations</source>
         <translation>组织</translation>
     </message>
     <message>
-        <location line="-93"/>
+        <location line="-96"/>
         <location line="+3"/>
         <source>add organization</source>
         <translation>添加组织</translation>
@@ -1818,30 +2065,31 @@
     </message>
     <message>
         <location line="+51"/>
+        <location line="+3"/>
         <source>display child organization person</source>
         <translation>显示下级组织人员</translation>
     </message>
     <message>
         <location line="+100"/>
         <location line="+19"/>
-        <location line="+538"/>
+        <location line="+539"/>
         <source>Name</source>
         <translation>姓名</translation>
     </message>
     <message>
-        <location line="-535"/>
+        <location line="-536"/>
         <source>Please input name...</source>
         <translation>请输入姓名...</translation>
     </message>
     <message>
         <location line="+38"/>
         <location line="+19"/>
-        <location line="+453"/>
+        <location line="+454"/>
         <source>Serial Num</source>
         <translation>编号</translation>
     </message>
     <message>
-        <location line="-450"/>
+        <location line="-451"/>
         <source>Please input serail num...</source>
         <translation>请输入编号...</translation>
     </message>
@@ -1877,7 +2125,7 @@
         <translation>搜索</translation>
     </message>
     <message>
-        <location line="+55"/>
+        <location line="+56"/>
         <source>Add Person</source>
         <translation>添加人员</translation>
     </message>
@@ -2088,7 +2336,7 @@
 <context>
     <name>qarn_personMgr::PersonMgrTree</name>
     <message>
-        <location filename="../../../personMgr/tree/PersonMgrTree.cpp" line="+47"/>
+        <location filename="../../../personMgr/tree/PersonMgrTree.cpp" line="+49"/>
         <source>Please select which organization to add to</source>
         <translation>请选择要添加到的组织</translation>
     </message>
@@ -2108,7 +2356,7 @@
         <translation>新组织</translation>
     </message>
     <message>
-        <location line="+16"/>
+        <location line="+15"/>
         <source>Add Organization</source>
         <translation>添加组织</translation>
     </message>
@@ -2118,7 +2366,7 @@
         <translation>编辑组织</translation>
     </message>
     <message>
-        <location line="+34"/>
+        <location line="+35"/>
         <source>organization has persons, can not be deleted</source>
         <translation>组织下有人员，不能删除</translation>
     </message>
@@ -2131,7 +2379,7 @@
 <context>
     <name>qarn_personMgr::PersonsTableWt</name>
     <message>
-        <location filename="../../../personMgr/table/PersonsTableWt.cpp" line="+151"/>
+        <location filename="../../../personMgr/table/PersonsTableWt.cpp" line="+152"/>
         <source>No persons to show. Select another organization, change the filters, or add persons.</source>
         <translation>没有可显示的人员。请选择其他组织、更改筛选条件或添加人员。</translation>
     </message>
