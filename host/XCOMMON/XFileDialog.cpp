@@ -27,11 +27,21 @@ QString run(XFileDialog& dialog, QString* selectedFilter)
     return dialog.selectedFiles().value(0);
 }
 
+/// Where to start: a proposed directory that does not exist would be taken for a file name, as the desktop
+/// of an account without one would be.
+QString startIn(const QString& proposed)
+{
+    const QFileInfo start(proposed);
+    return proposed.isEmpty() || start.exists() || (start.dir().exists() && !start.suffix().isEmpty())
+               ? proposed
+               : QDir::homePath();
+}
+
 } // namespace
 
 XFileDialog::XFileDialog(QWidget* parent, const QString& caption, const QString& directory,
                          const QString& filter)
-    : QFileDialog(parent, caption, directory, filter)
+    : QFileDialog(parent, caption, startIn(directory), filter)
 {
     setObjectName(QStringLiteral("XFileDialog"));
     setOption(DontUseNativeDialog);

@@ -66,6 +66,7 @@ private slots:
     void givesNothingWhenCancelled_data();
     void givesNothingWhenCancelled();
     void startsWithAFileName();
+    void startsAtHomeWhereTheDirectoryIsMissing();
     void givesTheChosenFilter();
 
 private:
@@ -247,6 +248,18 @@ void tst_XFileDialog::startsWithAFileName()
     QCOMPARE(
         XFileDialog::getSaveFileName(nullptr, QString(), path(QStringLiteral("template.csv")), csvFilter),
         path(QStringLiteral("template.csv")));
+    QCOMPARE(driver.pending(), 0);
+}
+
+void tst_XFileDialog::startsAtHomeWhereTheDirectoryIsMissing()
+{
+    ModalDriver driver;
+    driver.expect([](QWidget* dialog) {
+        QCOMPARE(qobject_cast<QFileDialog*>(dialog)->directory(), QDir::home());
+        QVERIFY(dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text().isEmpty());
+        press(dialog, QDialogButtonBox::Cancel);
+    });
+    XFileDialog::getOpenFileName(nullptr, QString(), path(QStringLiteral("Desktop")), csvFilter);
     QCOMPARE(driver.pending(), 0);
 }
 
