@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QScreen>
+#include <QSignalBlocker>
 
 namespace XCOMMON
 {
@@ -57,6 +58,8 @@ void XFileDialog::accept()
         // QFileDialog would prefer a file that is still selected in its list to the typed name.
         if (auto* list = findChild<QAbstractItemView*>(QStringLiteral("listView")))
             list->clearSelection();
+        // Told of the text, it would select that file and, where it lies elsewhere, keep its last part only.
+        const QSignalBlocker quiet(edit);
         edit->setText(name);
     }
     QFileDialog::accept();

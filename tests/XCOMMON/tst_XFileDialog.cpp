@@ -61,6 +61,7 @@ private slots:
     void savesUnderATypedName();
     void asksBeforeItReplaces();
     void doesNotTakeTheSelectedFileForTheTypedOne();
+    void replacesAFileOfAnotherDirectoryWhereItLies();
     void opensAFile();
     void picksADirectory();
     void givesNothingWhenCancelled_data();
@@ -189,6 +190,25 @@ void tst_XFileDialog::doesNotTakeTheSelectedFileForTheTypedOne()
     QCOMPARE(XFileDialog::getSaveFileName(nullptr, QString(), m_directory.path(),
                                           QStringLiteral("Zip (*.zip);;CSV (*.csv)")),
              path(QStringLiteral("old.tar.zip")));
+    QCOMPARE(driver.pending(), 0);
+}
+
+void tst_XFileDialog::replacesAFileOfAnotherDirectoryWhereItLies()
+{
+    QTemporaryDir elsewhere;
+    const QString existing = elsewhere.filePath(QStringLiteral("persons.csv"));
+    QFile file(existing);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    ModalDriver driver;
+    driver.expect([&existing](QWidget* dialog) {
+        typeName(dialog, existing);
+        press(dialog, QDialogButtonBox::Save);
+    });
+    driver.expect([](QWidget* question) {
+        QTest::mouseClick(qobject_cast<QMessageBox*>(question)->button(QMessageBox::Yes), Qt::LeftButton);
+    });
+    QCOMPARE(XFileDialog::getSaveFileName(nullptr, QString(), m_directory.path(), csvFilter), existing);
     QCOMPARE(driver.pending(), 0);
 }
 
