@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QPointer>
 #include <QScreen>
 #include <QSignalBlocker>
 
@@ -17,15 +18,20 @@ namespace
 
 constexpr QSize roomySize(820, 500); // all columns of the list can be seen
 
-QString run(XFileDialog& dialog, QString* selectedFilter)
+QString run(XFileDialog* made, QFileDialog::Options options, QString* selectedFilter = nullptr)
 {
+    // The parent may go, and take the dialog with it, while the dialog is open.
+    const QPointer<XFileDialog> dialog = made;
+    dialog->setOptions(options | QFileDialog::DontUseNativeDialog);
     if (selectedFilter != nullptr && !selectedFilter->isEmpty())
-        dialog.selectNameFilter(*selectedFilter);
-    if (dialog.exec() != QDialog::Accepted)
+        dialog->selectNameFilter(*selectedFilter);
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    if (dialog.isNull())
         return QString();
-    if (selectedFilter != nullptr)
-        *selectedFilter = dialog.selectedNameFilter();
-    return dialog.selectedFiles().value(0);
+    dialog->deleteLater();
+    if (accepted && selectedFilter != nullptr)
+        *selectedFilter = dialog->selectedNameFilter();
+    return accepted ? dialog->selectedFiles().value(0) : QString();
 }
 
 /// Where to start: a proposed directory that does not exist would be taken for a file name, as the desktop
@@ -68,28 +74,25 @@ void XFileDialog::accept()
 QString XFileDialog::getExistingDirectory(QWidget* parent, const QString& caption, const QString& dir,
                                           Options options)
 {
-    XFileDialog dialog(parent, caption, dir);
-    dialog.setFileMode(Directory);
-    dialog.setOptions(options | DontUseNativeDialog);
-    return run(dialog, nullptr);
+    auto* dialog = new XFileDialog(parent, caption, dir);
+    dialog->setFileMode(Directory);
+    return run(dialog, options);
 }
 
 QString XFileDialog::getOpenFileName(QWidget* parent, const QString& caption, const QString& dir,
                                      const QString& filter, QString* selectedFilter, Options options)
 {
-    XFileDialog dialog(parent, caption, dir, filter);
-    dialog.setFileMode(ExistingFile);
-    dialog.setOptions(options | DontUseNativeDialog);
-    return run(dialog, selectedFilter);
+    auto* dialog = new XFileDialog(parent, caption, dir, filter);
+    dialog->setFileMode(ExistingFile);
+    return run(dialog, options, selectedFilter);
 }
 
 QString XFileDialog::getSaveFileName(QWidget* parent, const QString& caption, const QString& dir,
                                      const QString& filter, QString* selectedFilter, Options options)
 {
-    XFileDialog dialog(parent, caption, dir, filter);
-    dialog.setAcceptMode(AcceptSave);
-    dialog.setOptions(options | DontUseNativeDialog);
-    return run(dialog, selectedFilter);
+    auto* dialog = new XFileDialog(parent, caption, dir, filter);
+    dialog->setAcceptMode(AcceptSave);
+    return run(dialog, options, selectedFilter);
 }
 
 } // namespace XCOMMON

@@ -14,12 +14,14 @@ constexpr int mostDays = 50000; ///< that are remembered
 // A local QDateTime of the years that matter is one word: flags in the low byte, local milliseconds above.
 // Qt has no function that makes one without asking the time zone rules. This relies on the layout only where
 // Qt itself has shown it: shift() is used between two moments that Qt made and that differ by just the shift.
-static_assert(sizeof(QDateTime) == sizeof(quint64), "a QDateTime is expected to be one word");
+// Where a QDateTime is no such word, as on 32-bit systems, every time is asked for.
+constexpr bool isOneWord = sizeof(QDateTime) == sizeof(quint64);
 
 quint64 wordOf(const QDateTime& time)
 {
     quint64 word = 0;
-    std::memcpy(&word, static_cast<const void*>(&time), sizeof word);
+    if constexpr (isOneWord)
+        std::memcpy(&word, static_cast<const void*>(&time), sizeof word);
     return word;
 }
 
@@ -39,7 +41,8 @@ QDateTime shift(const QDateTime& start, qint64 msecs)
 {
     QDateTime time;
     const quint64 word = shifted(wordOf(start), msecs);
-    std::memcpy(static_cast<void*>(&time), &word, sizeof word);
+    if constexpr (isOneWord)
+        std::memcpy(static_cast<void*>(&time), &word, sizeof word);
     return time;
 }
 

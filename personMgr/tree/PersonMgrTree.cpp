@@ -10,6 +10,7 @@
 #include <qarn_worker/DictDef.h>
 #include <qarn_worker/SystemAssistant.h>
 
+#include <QPointer>
 #include <QUuid>
 
 #include <memory>
@@ -122,8 +123,10 @@ void PersonMgrTree::showOrganizationModifyDlg(ModifyType modifyType, const TreeI
         record->name = name;
         PersonData::instance().updateOrganization(*record);
     });
+    const QPointer<ItemModifyDlg> guard(dialog); // goes with its parent when the client quits meanwhile
     dialog->exec();
-    dialog->deleteLater();
+    if (guard)
+        guard->deleteLater();
 }
 
 void PersonMgrTree::addOrganizationFromDlg(OrganizationInfo& record, ItemModifyDlg& dialog,

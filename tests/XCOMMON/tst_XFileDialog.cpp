@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -69,6 +70,7 @@ private slots:
     void startsWithAFileName();
     void startsAtHomeWhereTheDirectoryIsMissing();
     void givesTheChosenFilter();
+    void givesNothingWhenItsParentGoes();
 
 private:
     QString path(const QString& name) const { return m_directory.filePath(name); }
@@ -295,6 +297,16 @@ void tst_XFileDialog::givesTheChosenFilter()
                                           QStringLiteral("CSV(*.csv);;Text (*.txt)"), &filter),
              path(QStringLiteral("list.txt")));
     QCOMPARE(filter, QStringLiteral("Text (*.txt)"));
+}
+
+/// The client may quit while the dialog is open.
+void tst_XFileDialog::givesNothingWhenItsParentGoes()
+{
+    ModalDriver modal;
+    const QPointer<QWidget> parent = new QWidget;
+    modal.expect([parent](QWidget*) { delete parent.data(); });
+    QCOMPARE(XFileDialog::getOpenFileName(parent, "Open", m_directory.path(), csvFilter), QString());
+    QVERIFY(parent.isNull());
 }
 
 QTEST_MAIN(tst_XFileDialog)
