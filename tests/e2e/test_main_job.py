@@ -46,6 +46,7 @@ class MainJob(EndToEnd):
         client.click("importPersonsBt")
         client.click("filePath")
         client.choose_file(SAMPLES / "persons.csv")
+        self.picture(client, "import-table")
         client.click("importBt")
         self.wait_total(client, EXPECTED_DEMO + SAMPLE_COUNT)
         self.wait_idle(client)
@@ -163,6 +164,11 @@ class MainJob(EndToEnd):
         client.until(lambda: "Online" in [i["text"] for i in client.items("devicesTable")], "the device is online")
         self.picture(client, "devices-page")
         client.click_item("pageList", "Persons")
+        client.click("alertsBt")
+        client.widget("alertTable")
+        self.picture(client, "messages")
+        client.key("Escape")
+        client.until(lambda: not client.widgets("alertTable"), "the messages close")
         client.quit()
 
     def test_first_time(self):
