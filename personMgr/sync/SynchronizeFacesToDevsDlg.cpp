@@ -30,6 +30,7 @@ SynchronizeFacesToDevsDlg::SynchronizeFacesToDevsDlg(QWidget* parent)
     ui->cancelBt->setProperty(OtherButton, true);
     ui->treeWt->setStyleSheet(QStringLiteral("QTreeWidget{background-color:#0e1622;}"));
     ui->treeWt->buildTree(FaceListAbility, 0, true, true);
+    ui->organizationChecked->setFocus(); // the choice that is made
     connectAll();
 }
 

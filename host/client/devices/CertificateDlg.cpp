@@ -56,13 +56,13 @@ CertificateDlg::CertificateDlg(const QString& deviceName, const dvx_sdk::Certifi
 
     auto* trustBt = new QPushButton(tr("Trust this certificate"));
     trustBt->setObjectName(QStringLiteral("trustBt"));
-    trustBt->setProperty("common_bt_style1", true);
+    trustBt->setProperty("common_bt_style2", true);
     auto* cancelBt = new QPushButton(tr("Cancel"));
     cancelBt->setObjectName(QStringLiteral("cancelBt"));
-    cancelBt->setProperty("common_bt_style2", true);
+    cancelBt->setProperty("common_bt_style1", true);
     cancelBt->setDefault(true); // Return must not trust by accident
     for (QPushButton* button : {trustBt, cancelBt})
-        button->setMinimumSize(96, 28);
+        button->setMinimumSize(button->sizeHint().width() + 24, 28);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(trustBt);

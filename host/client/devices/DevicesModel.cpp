@@ -16,21 +16,19 @@ namespace
 
 constexpr int DotSize = 10;
 
-QPixmap dot(Reachability reachability)
+QIcon dot(QRgb color)
 {
-    constexpr QRgb online = 0xff46b37b;
-    constexpr QRgb offline = 0xffdc4d4d;
-    constexpr QRgb unknown = 0xff6c7586;
     QPixmap pixmap(DotSize, DotSize);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(reachability == Reachability::Online    ? online
-                            : reachability == Reachability::Offline ? offline
-                                                                    : unknown));
+    painter.setBrush(QColor(color));
     painter.drawEllipse(1, 1, DotSize - 2, DotSize - 2);
-    return pixmap;
+    painter.end();
+    QIcon icon(pixmap);
+    icon.addPixmap(pixmap, QIcon::Selected); // or it would be tinted
+    return icon;
 }
 
 } // namespace
@@ -99,8 +97,7 @@ QVariant DevicesModel::data(const QModelIndex& index, int role) const
                    ? dvx_sdk::responseText(m_answers.value(device.id))
                    : text(device, index.column()).toHtmlEscaped();
     case Qt::DecorationRole:
-        return index.column() == StateColumn ? dot(DeviceRegistry::instance().reachability(device.id))
-                                             : QVariant();
+        return index.column() == StateColumn ? stateIcon(device.id) : QVariant();
     case DeviceIdRole:
         return device.id;
     default:
@@ -122,6 +119,26 @@ QString DevicesModel::text(const Device& device, int column) const
     }
 }
 
+QIcon DevicesModel::stateIcon(const QString& id) const
+{
+    static const QIcon good = dot(0xff46b37b);
+    static const QIcon refused = dot(0xffd9a441);
+    static const QIcon offline = dot(0xffdc4d4d);
+    static const QIcon unknown = dot(0xff6c7586);
+    const int answer = m_answers.value(id, dvx_sdk::Success);
+    if (answer > dvx_sdk::Success || answer == dvx_sdk::Untrusted || answer == dvx_sdk::BadAnswer)
+        return refused; // something is there, but it does not do what it should
+    switch (DeviceRegistry::instance().reachability(id)) {
+    case Reachability::Online:
+        return good;
+    case Reachability::Offline:
+        return offline;
+    case Reachability::Unknown:
+        break;
+    }
+    return unknown;
+}
+
 QString DevicesModel::stateText(const QString& id) const
 {
     const int answer = m_answers.value(id, dvx_sdk::Success);
@@ -130,6 +147,8 @@ QString DevicesModel::stateText(const QString& id) const
     constexpr int UnauthorizedStatus = 401;
     if (answer == UnauthorizedStatus)
         return tr("Token refused");
+    if (answer > dvx_sdk::Success || answer == dvx_sdk::BadAnswer)
+        return tr("Not a face device");
     switch (DeviceRegistry::instance().reachability(id)) {
     case Reachability::Online:
         return tr("Online");

@@ -4,6 +4,7 @@
 
 #include <QAbstractTableModel>
 #include <QHash>
+#include <QIcon>
 #include <QList>
 
 /// The devices of the store as a table, kept in step with the registry. A name can be edited in place.
@@ -33,6 +34,7 @@ private:
     void updateState(const QString& id);
     QString text(const qarn_data::Device& device, int column) const;
     QString stateText(const QString& id) const;
+    QIcon stateIcon(const QString& id) const;
 
     QList<qarn_data::Device> m_devices;
     QHash<QString, int> m_answers;

@@ -109,7 +109,7 @@ QPushButton* DevicesPage::addButton(QBoxLayout* bar, const QString& text, const 
 {
     auto* button = new QPushButton(text);
     button->setObjectName(QLatin1String(name));
-    button->setMinimumSize(96, ButtonHeight);
+    button->setMinimumSize(qMax(96, button->sizeHint().width() + 24), ButtonHeight);
     button->setProperty("common_bt_style2", true);
     bar->addWidget(button);
     return button;

@@ -17,6 +17,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QListWidget>
+#include <QScreen>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -106,7 +107,7 @@ void MainWindow::setStoreName(const QString& name)
 
 void MainWindow::restore()
 {
-    resize(firstSize);
+    resize(firstSize.boundedTo(screen()->availableSize()));
     restoreGeometry(m_settings.windowGeometry());
     m_splitter->restoreState(m_settings.splitterState());
     m_pageList->setCurrentRow(qBound(0, m_settings.currentPage(), m_pages->count() - 1));
