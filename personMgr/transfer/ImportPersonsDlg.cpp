@@ -10,6 +10,7 @@
 #include <qarn_worker/SystemAssistant.h>
 
 #include <QKeyEvent>
+#include <QPointer>
 #include <QStandardPaths>
 #include <QToolTip>
 
@@ -115,14 +116,17 @@ void ImportPersonsDlg::showMode(bool faceMode)
 
 void ImportPersonsDlg::browse()
 {
-    QString& path = isFaceMode() ? m_facesDirPath : m_infoFilePath;
-    if (isFaceMode())
-        path =
-            XFileDialog::getExistingDirectory(this, tr("Select Person faces dir"), desktopDirectory(),
-                                              QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
-    else
-        path = XFileDialog::getOpenFileName(this, tr("Select Person info file"), desktopDirectory(),
-                                            QStringLiteral("CSV(*.csv)"));
+    const QPointer<ImportPersonsDlg> guard(this); // may go while the chooser is open
+    const bool faceMode = isFaceMode();
+    const QString path =
+        faceMode
+            ? XFileDialog::getExistingDirectory(this, tr("Select Person faces dir"), desktopDirectory(),
+                                                QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks)
+            : XFileDialog::getOpenFileName(this, tr("Select Person info file"), desktopDirectory(),
+                                           QStringLiteral("CSV(*.csv)"));
+    if (guard.isNull())
+        return;
+    (faceMode ? m_facesDirPath : m_infoFilePath) = path;
     m_ui->filePath->setText(path);
 }
 

@@ -93,6 +93,7 @@ private slots:
     void whatCameAndWentIsNotAnnounced();
     void swappedSerialNumbers();
     void ownWritesSeeForeignOnesFirst();
+    void aCheckTellsOfForeignChanges();
     void changesOfUnknownKind();
     void longAbsence();
     void ownChangesAreNotAnnouncedAgain();
@@ -259,6 +260,17 @@ void tst_ChangeFeed::ownWritesSeeForeignOnesFirst()
     QTest::qWait(600);
     QCOMPARE(watch.added.count(), 3); // exactly once
     QCOMPARE(samples::inconsistency(), QString());
+}
+
+void tst_ChangeFeed::aCheckTellsOfForeignChanges()
+{
+    TestStore store;
+    OtherProcess other(store.filePath());
+    samples::Watch watch;
+    QVERIFY(other.add(1, person("theirs", "A")));
+    QCOMPARE(samples::inconsistency(), QString()); // at once, before the next look
+    QCOMPARE(samples::ids(data().getAllPersons(false)), QStringList({"theirs"}));
+    QTRY_COMPARE_WITH_TIMEOUT(watch.added.count(), 1, 1000);
 }
 
 void tst_ChangeFeed::changesOfUnknownKind()

@@ -3,6 +3,7 @@
 
 #include "transfer/ImportPersonsDlg.h"
 
+#include <qarn_base/SelDirLineEt.h>
 #include <qarn_worker/SystemAssistant.h>
 
 #include <QCheckBox>
@@ -10,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
@@ -29,6 +31,7 @@ private slots:
     void asksForTheRightThing();
     void emptiesThePathOnCancel_data();
     void emptiesThePathOnCancel();
+    void survivesItsEndWhileAPathIsChosen();
     void choosesAPathByKeyboard();
     void switchesTheModeByKeyboard();
     void ordersTheRuleByTheBoxes();
@@ -193,6 +196,18 @@ void tst_ImportPersonsDlg::emptiesThePathOnCancel()
     click(dialog, faceMode ? "personInfoChecked" : "personFaceChecked");
     click(dialog, faceMode ? "personFaceChecked" : "personInfoChecked");
     QVERIFY2(dialog.getPath().isEmpty(), "the remembered path is gone too");
+}
+
+/// The client may quit while the chooser is open.
+void tst_ImportPersonsDlg::survivesItsEndWhileAPathIsChosen()
+{
+    const QPointer<ImportPersonsDlg> dialog = new ImportPersonsDlg(nullptr);
+    ModalDriver driver;
+    driver.expect([dialog](QWidget*) { delete dialog.data(); });
+    QMetaObject::invokeMethod(part<qarn_base::SelDirLineEt>(*dialog, "filePath"), "signalClicked",
+                              Qt::QueuedConnection);
+    QTRY_VERIFY(dialog.isNull());
+    QCOMPARE(driver.pending(), 0);
 }
 
 void tst_ImportPersonsDlg::choosesAPathByKeyboard()
