@@ -18,11 +18,12 @@ int main(int argc, char** argv)
     QCoreApplication application(argc, argv);
     constexpr int Devices = 10;
     constexpr int Channels = 4;
-    constexpr int Persons = 25;
+    constexpr int Persons = 10;
     constexpr int PhotoBytes = 60000;
     const StoreFiles files;
     openStore(files.path(QStringLiteral("store.db")));
     const qarn_data::PersonList persons = personsWithPhotos(Persons, PhotoBytes);
+    std::setvbuf(stdout, nullptr, _IOLBF, 0);
     for (const char* latency : {"0", "5", "20", "50"}) {
         std::vector<std::unique_ptr<SimulatedDevice>> fleet;
         QList<QPair<QString, int>> channels;

@@ -45,8 +45,10 @@ int fromSex(const QJsonValue& value)
 /// SCIM allows the URL alphabet too (RFC 7643, 2.3.6); who takes the image expects the standard one.
 QByteArray toStandardAlphabet(QByteArray base64)
 {
-    base64.replace('-', '+');
-    base64.replace('_', '/');
+    if (base64.contains('-') || base64.contains('_')) { // hardly any does, and it is the largest part
+        base64.replace('-', '+');
+        base64.replace('_', '/');
+    }
     return base64;
 }
 

@@ -146,7 +146,7 @@ void HttpConnection::slotReadyRead()
         return close(); // nothing was asked
     m_answered = true;
     while (m_socket != nullptr && m_socket->bytesAvailable() > 0 && !m_parser->isDone()) {
-        m_parser->feed(m_socket->read(ReadBufferBytes));
+        m_parser->feed(m_socket->readAll()); // at most ReadBufferBytes
         if (m_parser->isBroken())
             return fail(BadAnswer);
     }

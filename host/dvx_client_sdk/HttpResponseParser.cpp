@@ -121,6 +121,8 @@ void HttpResponseParser::endHead()
         m_remaining = header("content-length").toLongLong(&number);
         m_state = number && m_remaining >= 0 ? State::Length : State::Broken;
         limitBody(m_remaining);
+        if (m_state == State::Length)
+            m_body.reserve(static_cast<int>(m_remaining));
         if (m_state == State::Length && m_remaining == 0)
             end();
     } else {
@@ -152,11 +154,11 @@ bool HttpResponseParser::takeBody()
     limitBody(count);
     if (isBroken())
         return false;
-    if (count == m_input.size() && m_body.isEmpty())
-        m_body.swap(m_input);
+    m_body.append(m_input.constData(), static_cast<int>(count));
+    if (count == m_input.size())
+        m_input.clear();
     else
-        m_body.append(m_input.constData(), static_cast<int>(count));
-    m_input.remove(0, static_cast<int>(std::min<qint64>(count, m_input.size())));
+        m_input.remove(0, static_cast<int>(count));
     m_remaining -= counted ? count : 0;
     if (counted && m_remaining == 0) {
         if (m_state == State::Chunk)

@@ -193,5 +193,5 @@ void tst_SynchronizeFacesEnds::randomFaultsAndQuits()
     qInfo("%d runs: %d told their end, %d were quit", runs, ends, quits);
 }
 
-QTEST_MAIN(tst_SynchronizeFacesEnds)
+QTEST_GUILESS_MAIN(tst_SynchronizeFacesEnds)
 #include "tst_SynchronizeFacesEnds.moc"

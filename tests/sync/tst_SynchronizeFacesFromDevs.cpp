@@ -161,5 +161,5 @@ void tst_SynchronizeFacesFromDevs::failedReadStopsTheWatchdog()
     QCOMPARE(sync.finished.count(), 1);
 }
 
-QTEST_MAIN(tst_SynchronizeFacesFromDevs)
+QTEST_GUILESS_MAIN(tst_SynchronizeFacesFromDevs)
 #include "tst_SynchronizeFacesFromDevs.moc"

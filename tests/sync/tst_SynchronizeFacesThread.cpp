@@ -259,5 +259,5 @@ void tst_SynchronizeFacesThread::twoWorkersDoNotMeet()
     QCOMPARE(serialNumsOn(sim.id(), 3).count(), 40);
 }
 
-QTEST_MAIN(tst_SynchronizeFacesThread)
+QTEST_GUILESS_MAIN(tst_SynchronizeFacesThread)
 #include "tst_SynchronizeFacesThread.moc"
