@@ -1,90 +1,19 @@
-#include "tree/PersonMgrTree.h"
-
-#include "ModalDriver.h"
-#include "TestStore.h"
-
-#include <qarn_base/TreeItem.h>
-#include <qarn_base/TreeItemOperWt.h>
-#include <qarn_data/PersonData.h>
-#include <qarn_worker/SystemAssistant.h>
+#include "TreeFixture.h"
 
 #include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QSignalSpy>
 #include <QtTest>
 
 using namespace qarn_personMgr;
 using qarn_base::TreeItem;
 using qarn_base::TreeItemOperWt;
-using qarn_data::OrganizationInfo;
 using qarn_data::PersonData;
-using qarn_data::PersonInfo;
-using qarn_worker::SystemAssistant;
 
-namespace
-{
-
-QString addOrganization(const QString& parentId, const QString& name)
-{
-    const QString id = QUuid::createUuid().toString();
-    if (!PersonData::instance().addOrganization({id, parentId, name}))
-        qFatal("organization refused");
-    return id;
-}
-
-void addPerson(const QString& organizationId)
-{
-    PersonInfo person;
-    person.id = QUuid::createUuid().toString();
-    person.serialNum = QStringLiteral("S1");
-    person.name = QStringLiteral("Ann");
-    person.organizationId = organizationId;
-    if (!PersonData::instance().addPerson(person))
-        qFatal("person refused");
-}
-
-QStringList childNames(const QString& parentId)
-{
-    QStringList names;
-    const auto all = PersonData::instance().getAllOrganizations();
-    for (const OrganizationInfo& info : all) {
-        if (info.parentId == parentId)
-            names.append(info.name);
-    }
-    names.sort();
-    return names;
-}
-
-template <typename Widget>
-Widget* child(const QWidget* window, const char* name)
-{
-    auto* found = window->findChild<Widget*>(QLatin1String(name));
-    if (found == nullptr)
-        qFatal("no %s", name);
-    return found;
-}
-
-void click(const QWidget* window, const char* name)
-{
-    QTest::mouseClick(child<QPushButton>(window, name), Qt::LeftButton);
-}
-
-void typeName(const QWidget* window, const QString& name)
-{
-    auto* edit = child<QLineEdit>(window, "name");
-    edit->selectAll();
-    QTest::keyClicks(edit, name);
-}
-
-} // namespace
-
-class tst_PersonMgrTree : public QObject
+class tst_PersonMgrTree : public QObject, protected TreeFixture
 {
     Q_OBJECT
 private slots:
-    void init();
-    void cleanup();
+    void init() { open(); }
+    void cleanup() { close(); }
 
     void needsASelection();
     void proposesTheFirstFreeName();
@@ -95,62 +24,9 @@ private slots:
     void renames_data();
     void renames();
     void renamesUnderAnotherParentFreely();
-    void doesNotDeleteTheRoot();
-    void hidesTheDeleteButtonOfTheRoot();
-    void doesNotDeleteWherePersonsAre();
-    void deletesWhatIsConfirmed();
-    void keepsWhatIsNotConfirmed();
-    void deletesByTheButtonOfAnItem();
     void survivesAParentThatGoesMeanwhile();
     void survivesAnEditedItemThatGoesMeanwhile();
-
-private:
-    void select(const QString& id);
-    TreeItemOperWt* buttonsOf(const QString& id);
-    QString lastAlert() const { return m_alerts->isEmpty() ? QString() : m_alerts->last().at(1).toString(); }
-
-    std::unique_ptr<TestStore> m_store;
-    std::unique_ptr<QWidget> m_window;
-    std::unique_ptr<ModalDriver> m_modal;
-    std::unique_ptr<QSignalSpy> m_alerts;
-    PersonMgrTree* m_tree = nullptr;
-    QString m_rootId;
 };
-
-void tst_PersonMgrTree::init()
-{
-    m_store = std::make_unique<TestStore>();
-    m_window = std::make_unique<QWidget>();
-    m_window->resize(300, 400);
-    m_tree = new PersonMgrTree(m_window.get());
-    m_tree->resize(m_window->size());
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    m_modal = std::make_unique<ModalDriver>();
-    m_alerts =
-        std::make_unique<QSignalSpy>(&SystemAssistant::instance(), &SystemAssistant::signalMessageAlert);
-    m_rootId = PersonData::instance().getRootOrganizationId();
-    QVERIFY(m_tree->getOrganizationItem(m_rootId) != nullptr);
-}
-
-void tst_PersonMgrTree::cleanup()
-{
-    QCOMPARE(m_modal->pending(), 0);
-    m_window.reset();
-    m_store.reset();
-}
-
-void tst_PersonMgrTree::select(const QString& id)
-{
-    m_tree->setCurSelItem(m_tree->getOrganizationItem(id));
-    QCOMPARE(m_tree->getCurSelOrganizationId(), id);
-}
-
-TreeItemOperWt* tst_PersonMgrTree::buttonsOf(const QString& id)
-{
-    select(id);
-    return qobject_cast<TreeItemOperWt*>(m_tree->itemWidget(m_tree->getOrganizationItem(id), 0));
-}
 
 void tst_PersonMgrTree::needsASelection()
 {
@@ -302,82 +178,6 @@ void tst_PersonMgrTree::renamesUnderAnotherParentFreely()
     });
     click(buttons, "editBt");
     QCOMPARE(childNames(works), QStringList{"Paris"});
-}
-
-void tst_PersonMgrTree::doesNotDeleteTheRoot()
-{
-    select(m_rootId);
-    m_tree->slotDeleteCurSelOrganization();
-    QTRY_COMPARE(lastAlert(), QString("root organization can not be deleted"));
-    QCOMPARE(PersonData::instance().getRootOrganizationId(), m_rootId);
-}
-
-void tst_PersonMgrTree::hidesTheDeleteButtonOfTheRoot()
-{
-    const QString sales = addOrganization(m_rootId, "Sales");
-    TreeItemOperWt* root = buttonsOf(m_rootId);
-    QVERIFY(root != nullptr);
-    QVERIFY(child<QPushButton>(root, "editBt")->isVisible());
-    const auto* deleteBt = root->findChild<QPushButton*>("deleteBt");
-    QVERIFY(deleteBt == nullptr || !deleteBt->isVisible());
-    TreeItemOperWt* other = buttonsOf(sales);
-    QVERIFY(other != nullptr);
-    QVERIFY(child<QPushButton>(other, "deleteBt")->isVisible());
-}
-
-void tst_PersonMgrTree::doesNotDeleteWherePersonsAre()
-{
-    const QString sales = addOrganization(m_rootId, "Sales");
-    addOrganization(sales, "Empty");
-    const QString paris = addOrganization(sales, "Paris");
-    addPerson(addOrganization(paris, "Centre"));
-    select(sales);
-    QString told;
-    m_modal->expect([&](QWidget* window) {
-        told = child<QLabel>(window, "text")->text();
-        click(window, "okBt");
-    });
-    m_tree->slotDeleteCurSelOrganization();
-    QCOMPARE(told, QString("organization has persons, can not be deleted"));
-    QCOMPARE(PersonData::instance().getAllOrganizations().count(), 5);
-}
-
-void tst_PersonMgrTree::deletesWhatIsConfirmed()
-{
-    const QString sales = addOrganization(m_rootId, "Sales");
-    addOrganization(addOrganization(sales, "Paris"), "Centre");
-    addOrganization(m_rootId, "Works");
-    select(sales);
-    QString asked;
-    m_modal->expect([&](QWidget* window) {
-        asked = child<QLabel>(window, "text")->text();
-        click(window, "okBt");
-    });
-    m_tree->slotDeleteCurSelOrganization();
-    QCOMPARE(asked, QString("Do you want to delete the select organization?"));
-    QCOMPARE(childNames(m_rootId), QStringList{"Works"});
-    QCOMPARE(PersonData::instance().getAllOrganizations().count(), 2);
-    QCOMPARE(m_tree->getOrganizationItem(sales), nullptr);
-}
-
-void tst_PersonMgrTree::keepsWhatIsNotConfirmed()
-{
-    select(addOrganization(m_rootId, "Sales"));
-    m_modal->expect([](QWidget* window) { click(window, "cancelBt"); });
-    m_tree->slotDeleteCurSelOrganization();
-    m_modal->expect([](QWidget* window) { QTest::keyClick(window, Qt::Key_Escape); });
-    m_tree->slotDeleteCurSelOrganization();
-    QCOMPARE(childNames(m_rootId), QStringList{"Sales"});
-}
-
-void tst_PersonMgrTree::deletesByTheButtonOfAnItem()
-{
-    TreeItemOperWt* buttons = buttonsOf(addOrganization(m_rootId, "Sales"));
-    QVERIFY(buttons != nullptr);
-    m_modal->expect([](QWidget* window) { click(window, "okBt"); });
-    click(buttons, "deleteBt"); // goes with its item
-    QCOMPARE(childNames(m_rootId), QStringList());
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 void tst_PersonMgrTree::survivesAParentThatGoesMeanwhile()
