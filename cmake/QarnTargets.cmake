@@ -110,6 +110,6 @@ function(qarn_test_environment name timeout labels)
       TIMEOUT ${timeout}
       LABELS "${labels}"
       ENVIRONMENT
-      "QT_QPA_PLATFORM=offscreen;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;XDG_RUNTIME_DIR=${home}/run;XDG_DESKTOP_DIR=${home};TZ=Europe/Berlin;LANG=C.UTF-8;LC_ALL=C.UTF-8;QT_LOGGING_RULES=qt.qpa.*=false;LSAN_OPTIONS=suppressions=${QARN_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0;UBSAN_OPTIONS=print_stacktrace=1"
+      "QT_QPA_PLATFORM=offscreen;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;XDG_RUNTIME_DIR=${home}/run;XDG_DESKTOP_DIR=${home};TZ=Europe/Berlin;LANG=C.UTF-8;LC_ALL=C.UTF-8;QT_LOGGING_RULES=qt.qpa.*=false;LSAN_OPTIONS=suppressions=${QARN_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0;ASAN_OPTIONS=fast_unwind_on_malloc=0;UBSAN_OPTIONS=print_stacktrace=1"
   )
 endfunction()

@@ -61,7 +61,8 @@ QByteArray ToolsCollection::loadImage(const QString& path)
     if (!file.open(QIODevice::ReadOnly))
         return refuse(tr("The image \"%1\" cannot be read: %2. Check its permissions or choose another one.")
                           .arg(shown, file.errorString()));
-    const QByteArray bytes = file.read(MaxImageBytes + 1);
+    // One byte more than there should be tells a file that grows or is too large.
+    const QByteArray bytes = file.read(qMin(file.size(), MaxImageBytes) + 1);
     if (bytes.size() > MaxImageBytes)
         return refuse(
             tr("The image \"%1\" is larger than %2 MiB. Choose a smaller one.").arg(shown).arg(MaxImageMiB));

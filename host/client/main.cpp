@@ -16,6 +16,14 @@ namespace
 constexpr int usageError = 2;
 constexpr int noStore = 3;
 
+/// Without TZ every conversion to local time looks at the system's zone file again, which makes loading a
+/// large register several times slower.
+void readTheTimeZoneOnce()
+{
+    if (!qEnvironmentVariableIsSet("TZ"))
+        qputenv("TZ", ":/etc/localtime");
+}
+
 QStringList argumentList(int argc, char** argv)
 {
     QStringList arguments;
@@ -40,6 +48,7 @@ int main(int argc, char** argv)
         return 0;
     }
 
+    readTheTimeZoneOnce();
     if (line.selfTest)
         display::useNone();
     display::useHighDpi();

@@ -4,6 +4,7 @@
 
 #include <QCryptographicHash>
 #include <QNetworkProxy>
+#include <QPointer>
 #include <QSslError>
 #include <QSslSocket>
 
@@ -104,8 +105,11 @@ void HttpConnection::slotEncrypted()
         return slotConnected();
     // Also when the system would trust the other one. Queued: the socket is in the middle of its handshake.
     refuseCertificate({tr("The device shows another certificate than the one that was accepted.")});
-    QMetaObject::invokeMethod(
-        this, [this] { fail(Untrusted); }, Qt::QueuedConnection);
+    const auto failUnlessGivenUp = [this, socket = QPointer<QTcpSocket>(m_socket.get())] {
+        if (socket == m_socket.get())
+            fail(Untrusted);
+    };
+    QMetaObject::invokeMethod(this, failUnlessGivenUp, Qt::QueuedConnection);
 }
 
 void HttpConnection::slotSslErrors(const QList<QSslError>& errors)

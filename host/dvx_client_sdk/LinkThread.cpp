@@ -63,12 +63,16 @@ bool LinkThread::post(const std::function<void(DeviceLink&)>& task)
 
 void LinkThread::stop()
 {
-    const QMutexLocker locker(&m_mutex);
-    m_stopped = true;
-    if (m_link == nullptr)
+    DeviceLink* link = nullptr;
+    {
+        // Not held any longer: who is told of an end may send another request at once.
+        const QMutexLocker locker(&m_mutex);
+        m_stopped = true;
+        link = m_link.release();
+    }
+    if (link == nullptr)
         return;
     // Comes after every task that was posted before, so each of those has its answer.
-    DeviceLink* link = m_link.release();
     const auto endLink = [link] {
         link->endAll(ShuttingDown);
         std::unique_ptr<DeviceLink> owner(link); // its sockets must go in their own thread

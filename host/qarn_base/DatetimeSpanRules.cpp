@@ -16,6 +16,12 @@ SpanProblem checkSpan(const QDateTime& start, const QDateTime& end, qint64 maxSe
     return SpanProblem::None;
 }
 
+QDateTime wallClock(const QDateTime& time)
+{
+    const QDateTime local = time.toLocalTime();
+    return QDateTime(local.date(), local.time(), Qt::UTC);
+}
+
 QDateTime editedTime(const QDateTime& original, const QDateTime& shown)
 {
     const auto wholeSecond = [](const QTime& time) {

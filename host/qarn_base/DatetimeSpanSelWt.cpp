@@ -9,6 +9,7 @@
 
 #include <QDateTimeEdit>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
@@ -48,6 +49,8 @@ QDateTimeEdit* makeField(const QString& name, const QString& accessibleName, QWi
     auto* field = new QDateTimeEdit(parent);
     field->setObjectName(name);
     field->setAccessibleName(accessibleName);
+    // In local time the field would put back what is typed of an hour that the clock change skips.
+    field->setTimeSpec(Qt::UTC);
     field->setDisplayFormat(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     field->setCalendarPopup(true);
     field->setFixedSize(FieldWidth, FieldHeight);
@@ -103,8 +106,8 @@ void DatetimeSpanSelWt::setInitDateTime(const QDateTime& start, const QDateTime&
     const QDateTime now = QDateTime::currentDateTime();
     d->originalStart = start.isValid() ? start : now;
     d->originalEnd = end.isValid() ? end : d->originalStart;
-    d->start->setDateTime(d->originalStart.toLocalTime());
-    d->end->setDateTime(d->originalEnd.toLocalTime());
+    d->start->setDateTime(wallClock(d->originalStart));
+    d->end->setDateTime(wallClock(d->originalEnd));
     d->reason->hideReason();
 }
 

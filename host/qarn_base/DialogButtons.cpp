@@ -2,6 +2,8 @@
 
 #include <XCOMMON/XPushButton.h>
 
+#include <QVariant>
+
 namespace qarn_base
 {
 

@@ -18,6 +18,7 @@ namespace
 {
 constexpr int FieldHeight = 28; ///< pixels
 constexpr int DialogWidth = 420;
+constexpr int ToolTipRise = 60;
 } // namespace
 
 struct ItemModifyDlg::Private {
@@ -124,7 +125,7 @@ bool ItemModifyDlg::Private::check() const
         return true;
     reason->showReason(why);
     // Above the field, so that neither the name nor the reason below it is covered.
-    QToolTip::showText(name->mapToGlobal(QPoint(0, -2 * name->height())), plainToolTip(why), name);
+    QToolTip::showText(name->mapToGlobal(QPoint(0, -ToolTipRise)), plainToolTip(why), name);
     name->setFocus();
     name->selectAll();
     return false;

@@ -36,6 +36,7 @@ PersonTree::PersonTree(QWidget* parent, TreeConfig* config)
     : CommonTree(parent, config),
       p(std::make_unique<Private>(*this))
 {
+    setAccessibleName(tr("Organizations"));
     p->settle.setSingleShot(true);
     p->settle.setInterval(0);
     connect(&p->settle, &QTimer::timeout, this, [this] { p->anchor.restore(); });

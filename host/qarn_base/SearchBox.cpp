@@ -3,6 +3,7 @@
 #include <XCOMMON/XLineEdit.h>
 
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QKeyEvent>
 
 namespace qarn_base

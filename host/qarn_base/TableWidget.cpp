@@ -38,6 +38,7 @@ private:
 TableWidget::TableWidget(QWidget* parent) : XCOMMON::XTableWidget(parent)
 {
     setItemDelegate(new RowHoverDelegate(m_hoveredRow, this));
+    connect(this, &QTableWidget::itemSelectionChanged, this, [this] { styleRow(m_hoveredRow, true); });
 }
 
 void TableWidget::mouseMoveEvent(QMouseEvent* event)
@@ -64,9 +65,13 @@ void TableWidget::setHoveredRow(int row)
 
 void TableWidget::styleRow(int row, bool hovered)
 {
+    const bool selected = selectionModel()->isRowSelected(row, QModelIndex());
+    const TableOperWt::WidgetStyle style = !hovered   ? TableOperWt::NormalStyle
+                                           : selected ? TableOperWt::SelectedStyle
+                                                      : TableOperWt::HoverStyle;
     for (int column = 0; row >= 0 && column < columnCount(); ++column) {
         if (auto* operWt = qobject_cast<TableOperWt*>(cellWidget(row, column)))
-            operWt->setWtStyle(hovered ? TableOperWt::HoverStyle : TableOperWt::NormalStyle);
+            operWt->setWtStyle(style);
     }
 }
 

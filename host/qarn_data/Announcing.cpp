@@ -47,6 +47,19 @@ Announcement devicesChanged()
     return [] { emit DeviceRegistry::instance().signalDevicesChanged(); };
 }
 
+void announceInGuiThread(const Announcements& announcements)
+{
+    if (announcements.isEmpty())
+        return;
+    QMetaObject::invokeMethod(
+        &DataService::instance(),
+        [announcements] {
+            for (const Announcement& announce : announcements)
+                announce();
+        },
+        Qt::QueuedConnection);
+}
+
 void tellFailure(const QString& text)
 {
     if (!text.isEmpty())

@@ -18,6 +18,9 @@ Announcement organizationsDeleted(const QStringList& ids);
 Announcement fieldsReset(const QStringList& names);
 Announcement devicesChanged();
 
+/// Emits them from the GUI thread's event loop, so that locks may be held now.
+void announceInGuiThread(const Announcements& announcements);
+
 /// Tells the operator; does nothing when `text` is empty.
 void tellFailure(const QString& text);
 

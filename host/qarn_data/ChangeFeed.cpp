@@ -10,7 +10,7 @@
 namespace qarn_data
 {
 
-bool ChangeFeed::takeIn(Announcements* announcements)
+bool ChangeFeed::takeIn(Announcements& announcements)
 {
     QVector<Change> changes;
     bool ok = ChangeLog(m_store).readAfter(m_state.lastChange, &changes);
@@ -23,8 +23,7 @@ bool ChangeFeed::takeIn(Announcements* announcements)
                 m_state.lastChange = changes.at(i).number;
         }
     }
-    if (announcements != nullptr)
-        announcements->append(m_due);
+    announcements += m_due;
     return ok;
 }
 

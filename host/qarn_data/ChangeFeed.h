@@ -19,9 +19,8 @@ public:
     {
     }
 
-    /// False when the database cannot be read; what was entered until then stays. `announcements` may be
-    /// null.
-    bool takeIn(Announcements* announcements);
+    /// False when the database cannot be read; what was entered until then stays.
+    bool takeIn(Announcements& announcements);
 
 private:
     bool take(const Change& change);

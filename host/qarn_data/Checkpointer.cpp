@@ -58,7 +58,7 @@ void Checkpointer::run()
 {
     SqlStore store(std::make_unique<SqliteDialect>());
     QString reason;
-    if (!store.open(m_location, &reason)) {
+    if (!store.openBeside(m_location, &reason)) {
         qCWarning(logData) << "no checkpoints of" << m_location << reason;
         return;
     }

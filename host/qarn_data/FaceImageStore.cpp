@@ -23,12 +23,15 @@ QByteArray keyOf(const QByteArray& bytes)
 
 QByteArray FaceImageStore::image(const QByteArray& key)
 {
+    if (key.isEmpty())
+        return {};
     const auto known = m_read.constFind(key);
     if (known != m_read.constEnd())
         return *known;
     QByteArray bytes;
-    m_store.forEachRow("SELECT bytes FROM face_images WHERE hash = ?", {key},
-                       [&bytes](const Row& row) { bytes = row.bytes(0); });
+    if (!m_store.forEachRow("SELECT bytes FROM face_images WHERE hash = ?", {key},
+                            [&bytes](const Row& row) { bytes = row.bytes(0); }))
+        m_hasFailed = true;
     m_read.insert(key, bytes);
     return bytes;
 }

@@ -15,11 +15,14 @@ class FaceImageStore
 public:
     explicit FaceImageStore(SqlStore& store) : m_store(store) {}
 
-    QByteArray image(const QByteArray& key); ///< empty when there is none
+    QByteArray image(const QByteArray& key); ///< empty when there is none, or when reading failed
     QByteArray put(const QByteArray& bytes); ///< the key; empty when the store refuses
+    /// Whether any image could not be read.
+    bool hasFailed() const { return m_hasFailed; }
 
 private:
     SqlStore& m_store;
+    bool m_hasFailed = false;
     QHash<QByteArray, QByteArray> m_read;
 };
 

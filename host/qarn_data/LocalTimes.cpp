@@ -14,12 +14,14 @@ constexpr int mostDays = 50000; ///< that are remembered
 // A local QDateTime of the years that matter is one word: flags in the low byte, local milliseconds above.
 // Qt has no function that makes one without asking the time zone rules. This relies on the layout only where
 // Qt itself has shown it: shift() is used between two moments that Qt made and that differ by just the shift.
-static_assert(sizeof(QDateTime) == sizeof(quint64), "a QDateTime is expected to be one word");
+// Where a QDateTime is no such word, as on 32-bit systems, every time is asked for.
+constexpr bool isOneWord = sizeof(QDateTime) == sizeof(quint64);
 
 quint64 wordOf(const QDateTime& time)
 {
     quint64 word = 0;
-    std::memcpy(&word, static_cast<const void*>(&time), sizeof word);
+    if constexpr (isOneWord)
+        std::memcpy(&word, static_cast<const void*>(&time), sizeof word);
     return word;
 }
 
@@ -39,8 +41,19 @@ QDateTime shift(const QDateTime& start, qint64 msecs)
 {
     QDateTime time;
     const quint64 word = shifted(wordOf(start), msecs);
-    std::memcpy(static_cast<void*>(&time), &word, sizeof word);
+    if constexpr (isOneWord)
+        std::memcpy(static_cast<void*>(&time), &word, sizeof word);
     return time;
+}
+
+qint64 startOf(const QDate& date)
+{
+    return QDateTime(date, QTime(0, 0)).toMSecsSinceEpoch();
+}
+
+qint64 endOf(const QDate& date)
+{
+    return QDateTime(date, QTime(23, 59, 59, 999)).toMSecsSinceEpoch();
 }
 
 qint64 dayOf(qint64 msecs)
@@ -83,9 +96,11 @@ qint64 LocalTimes::toMSecs(const QDateTime& time)
     }
     LocalDay& day = *known;
     if (day.kind == Kind::SeenOnce) {
-        day.start = QDateTime(date, QTime(0, 0)).toMSecsSinceEpoch();
-        const qint64 end = QDateTime(date, QTime(23, 59, 59, 999)).toMSecsSinceEpoch();
-        day.kind = end - day.start == dayMs - 1 ? Kind::Uniform : Kind::Uneven;
+        day.start = startOf(date);
+        // An hour that comes twice may lie at either end of the day; then the neighbours do not fit.
+        const bool fits = endOf(date) - day.start == dayMs - 1 && day.start - endOf(date.addDays(-1)) == 1 &&
+                          startOf(date.addDays(1)) - day.start == dayMs;
+        day.kind = fits ? Kind::Uniform : Kind::Uneven;
     }
     return day.kind == Kind::Uniform ? day.start + time.time().msecsSinceStartOfDay()
                                      : time.toMSecsSinceEpoch();

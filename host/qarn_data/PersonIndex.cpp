@@ -9,7 +9,7 @@ void PersonIndex::reserve(int records)
 {
     m_infos.reserve(records);
     m_slots.reserve(records);
-    m_members.reserve(records);
+    m_records.reserve(records);
     m_byId.reserve(records);
     m_bySerial.reserve(records);
     m_byName.reserve(records);
@@ -57,19 +57,19 @@ void PersonIndex::replace(int position, const StoredRecord& record)
     const Slot old = m_slots.at(position);
     const PersonInfo oldInfo = m_infos.at(position);
     leave(old, oldInfo);
-    m_members.erase(std::lower_bound(m_members.begin(), m_members.end(), Member(old.person, old.record)));
-    leaveSerialNum(old.person, oldInfo.serialNum);
+    // What one record of a person says now, the others will say in a moment.
+    if (m_bySerial.value(oldInfo.serialNum) == old.person)
+        m_bySerial.remove(oldInfo.serialNum);
+    m_records.remove(old.person, old.record);
     m_slots[position] = {record.number, record.person, organizationPlace(record.info.organizationId)};
     m_infos[position] = record.info;
     enter(m_slots.at(position), record.info);
-    findFirst({oldInfo.name});
 }
 
 void PersonIndex::enter(const Slot& entry, const PersonInfo& info)
 {
-    const Member member(entry.person, entry.record);
-    m_members.insert(int(std::upper_bound(m_members.begin(), m_members.end(), member) - m_members.begin()),
-                     member);
+    m_records.insert(entry.person, entry.record);
+    m_lastPerson = std::max(m_lastPerson, entry.person);
     m_byId.insert(info.id, entry.record);
     if (!info.serialNum.isEmpty())
         m_bySerial.insert(info.serialNum, entry.person);
@@ -81,15 +81,16 @@ void PersonIndex::enterName(const QString& name, qint64 record)
 {
     const auto known = m_byName.find(name);
     if (known == m_byName.end()) {
-        m_byName.insert(name, {record, 1});
+        m_byName.insert(name, {record, {}});
         return;
     }
+    QList<qint64>& others = known->others;
+    const qint64 later = std::max(known->first, record);
     known->first = std::min(known->first, record);
-    ++known->count;
+    others.insert(std::upper_bound(others.begin(), others.end(), later), later);
 }
 
-// Takes a record out of the ways to find it. Whoever calls this sees to members, serial number and to the
-// first bearer of the name.
+// Takes a record out of the ways to find it. Whoever calls this sees to members and serial number.
 void PersonIndex::leave(const Slot& entry, const PersonInfo& info)
 {
     m_byId.remove(info.id);
@@ -100,38 +101,25 @@ void PersonIndex::leave(const Slot& entry, const PersonInfo& info)
 void PersonIndex::leaveName(const QString& name, qint64 record)
 {
     const auto namesakes = m_byName.find(name);
-    if (--namesakes->count == 0)
+    QList<qint64>& others = namesakes->others;
+    if (namesakes->first != record)
+        others.erase(std::lower_bound(others.begin(), others.end(), record));
+    else if (others.isEmpty())
         m_byName.erase(namesakes);
-    else if (namesakes->first == record)
-        namesakes->first = NoRecord;
+    else
+        namesakes->first = others.takeFirst();
 }
 
 void PersonIndex::leaveSerialNum(qint64 person, const QString& serialNum)
 {
     const auto known = m_bySerial.find(serialNum);
-    if (known != m_bySerial.end() && *known == person && recordsOf(person).isEmpty())
+    if (known != m_bySerial.end() && *known == person && !m_records.contains(person))
         m_bySerial.erase(known);
-}
-
-// Gives names that lost their first bearer the next one, in one pass.
-void PersonIndex::findFirst(const QSet<QString>& names)
-{
-    QSet<QString> open;
-    for (const QString& name : names) {
-        const auto namesakes = m_byName.constFind(name);
-        if (namesakes != m_byName.constEnd() && namesakes->first == NoRecord)
-            open.insert(name);
-    }
-    for (int i = 0; i < m_infos.size() && !open.isEmpty(); ++i) {
-        if (open.remove(m_infos.at(i).name))
-            m_byName[m_infos.at(i).name].first = m_slots.at(i).record;
-    }
 }
 
 QStringList PersonIndex::remove(const QVector<qint64>& numbers)
 {
     QStringList ids;
-    QSet<QString> names;
     QVector<bool> gone(m_slots.size(), false);
     QVector<QPair<qint64, QString>> serials;
     for (const qint64 number : numbers) {
@@ -142,26 +130,24 @@ QStringList PersonIndex::remove(const QVector<qint64>& numbers)
         const PersonInfo& info = m_infos.at(place);
         leave(m_slots.at(place), info);
         ids.append(info.id);
-        names.insert(info.name);
         serials.append({m_slots.at(place).person, info.serialNum});
     }
     if (!ids.isEmpty())
         dropMarked(gone);
     for (const auto& serial : qAsConst(serials))
         leaveSerialNum(serial.first, serial.second);
-    findFirst(names);
     return ids;
 }
 
 // One pass over the lists, however many go.
 void PersonIndex::dropMarked(const QVector<bool>& gone)
 {
-    const auto isGone = [&](const Member& member) { return gone.at(position(member.second)); };
-    m_members.erase(std::remove_if(m_members.begin(), m_members.end(), isGone), m_members.end());
     int kept = 0;
     for (int i = 0; i < gone.size(); ++i) {
-        if (gone.at(i))
+        if (gone.at(i)) {
+            m_records.remove(m_slots.at(i).person, m_slots.at(i).record);
             continue;
+        }
         if (kept != i) {
             m_slots[kept] = m_slots.at(i);
             m_infos.swapItemsAt(kept, i);
@@ -189,7 +175,6 @@ void PersonIndex::updatePerson(qint64 person, const PersonInfo& info)
             m_bySerial.remove(old.serialNum);
         if (!info.serialNum.isEmpty())
             m_bySerial.insert(info.serialNum, person);
-        findFirst({old.name});
     }
 }
 
@@ -286,9 +271,10 @@ qint64 PersonIndex::personOf(qint64 record) const
 QVector<qint64> PersonIndex::recordsOf(qint64 person) const
 {
     QVector<qint64> records;
-    for (auto member = std::lower_bound(m_members.cbegin(), m_members.cend(), Member(person, 0));
-         member != m_members.cend() && member->first == person; ++member)
-        records.append(member->second);
+    for (auto entry = m_records.constFind(person); entry != m_records.cend() && entry.key() == person;
+         ++entry)
+        records.append(*entry);
+    std::sort(records.begin(), records.end());
     return records;
 }
 

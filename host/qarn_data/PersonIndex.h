@@ -3,7 +3,6 @@
 #include <qarn_data/PersonInfo.h>
 
 #include <QHash>
-#include <QPair>
 #include <QSet>
 #include <QStringList>
 #include <QVector>
@@ -36,7 +35,7 @@ public:
 
     int count() const { return m_infos.count(); }
     qint64 lastRecord() const { return m_slots.isEmpty() ? 0 : m_slots.last().record; }
-    qint64 lastPerson() const { return m_members.isEmpty() ? 0 : m_members.last().first; }
+    qint64 lastPerson() const { return m_lastPerson; } ///< the greatest number that was ever held
 
     QList<PersonInfo> all() const { return m_infos; }
     QList<PersonInfo> inOrganizations(const QStringList& organizationIds) const;
@@ -63,12 +62,9 @@ private:
         int organization; ///< place in m_organizations
     };
     struct Namesakes {
-        qint64 first; ///< record
-        int count;
+        qint64 first;         ///< record
+        QList<qint64> others; ///< records, sorted; empty for most names
     };
-    using Member = QPair<qint64, qint64>; ///< person, record
-
-    static constexpr qint64 NoRecord = 0;
 
     int position(qint64 record) const; ///< in m_slots and m_infos; -1 when unknown
     int organizationPlace(const QString& organizationId);
@@ -79,14 +75,14 @@ private:
     void leave(const Slot& entry, const PersonInfo& info);
     void leaveName(const QString& name, qint64 record);
     void leaveSerialNum(qint64 person, const QString& serialNum);
-    void findFirst(const QSet<QString>& names);
     void dropMarked(const QVector<bool>& gone);
 
     // Side by side, one element a record, sorted by its number.
     QList<PersonInfo> m_infos;
     QVector<Slot> m_slots;
 
-    QVector<Member> m_members; ///< sorted
+    QMultiHash<qint64, qint64> m_records; ///< by person
+    qint64 m_lastPerson = 0;
     QHash<QString, qint64> m_byId;
     QHash<QString, qint64> m_bySerial; ///< person
     QHash<QString, Namesakes> m_byName;

@@ -13,7 +13,7 @@ QString tr(const char* text, int n = -1)
     return QCoreApplication::translate("qarn_data::PersonRules", text, nullptr, n);
 }
 
-// Half a surrogate pair cannot be stored; it becomes the replacement character, here as in the database.
+// Half a surrogate pair cannot be stored; it becomes a question mark, here as in the database.
 void mend(QString& text)
 {
     if (!text.isValidUtf16())

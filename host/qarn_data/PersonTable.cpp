@@ -61,6 +61,12 @@ std::optional<qint64> toStored(const QDate& date)
     return date.isValid() ? std::optional<qint64>(date.toJulianDay()) : std::nullopt;
 }
 
+// To QDateTime an invalid time is equal to the start of 1970.
+bool sameTime(const QDateTime& a, const QDateTime& b)
+{
+    return a.isValid() == b.isValid() && a == b;
+}
+
 QDate dateAt(const Row& row, int column)
 {
     return row.isNull(column) ? QDate() : QDate::fromJulianDay(row.number(column));
@@ -151,7 +157,7 @@ bool PersonTable::read(const Selection& selection, const Values& values, const R
     };
     return m_store.forEachRow(selection.values.constData(), values, takeField) &&
            m_store.forEachRow(selection.faces.constData(), values, takeFace) &&
-           m_store.forEachRow(selection.records.constData(), values, takeRecord);
+           m_store.forEachRow(selection.records.constData(), values, takeRecord) && !m_faces.hasFailed();
 }
 
 std::optional<qint64> PersonTable::stored(const QDateTime& time)
@@ -200,12 +206,12 @@ bool PersonTable::updatePerson(qint64 person, const PersonInfo& old, const Perso
 {
     const bool ok =
         m_store.run("UPDATE persons SET serial_num = ?, name = ?, sex = ?, email = ?, phone_num = ?,"
-                    " valid_start = ?, valid_end = ?, remarks = ?, birth_date = ?, identity_type = ?,"
-                    " identity_id = ?, job = ?, employ_date = ?, address = ? WHERE number = ?",
-                    info.serialNum, info.name, info.sex, info.email, info.phoneNum,
-                    stored(info.validStartTime), stored(info.validEndTime), info.remarks,
+                    " remarks = ?, birth_date = ?, identity_type = ?, identity_id = ?, job = ?,"
+                    " employ_date = ?, address = ? WHERE number = ?",
+                    info.serialNum, info.name, info.sex, info.email, info.phoneNum, info.remarks,
                     toStored(info.birthDate), info.identityType, info.identityId, info.job,
                     toStored(info.employDate), info.address, person) &&
+        updateValidity(person, old, info) &&
         (old.faceImage1 == info.faceImage1 || putFace(person, 1, info.faceImage1)) &&
         (old.faceImage2 == info.faceImage2 || putFace(person, 2, info.faceImage2)) &&
         (old.faceImage3 == info.faceImage3 || putFace(person, 3, info.faceImage3));
@@ -217,6 +223,15 @@ bool PersonTable::updatePerson(qint64 person, const PersonInfo& old, const Perso
             return false;
     }
     return putFields(person, info.customFields);
+}
+
+// Apart, since asking what moment a local time stands for takes longer than the rest of an update.
+bool PersonTable::updateValidity(qint64 person, const PersonInfo& old, const PersonInfo& info)
+{
+    return (sameTime(old.validStartTime, info.validStartTime) &&
+            sameTime(old.validEndTime, info.validEndTime)) ||
+           m_store.run("UPDATE persons SET valid_start = ?, valid_end = ? WHERE number = ?",
+                       stored(info.validStartTime), stored(info.validEndTime), person);
 }
 
 bool PersonTable::putFace(qint64 person, int slot, const QByteArray& bytes)

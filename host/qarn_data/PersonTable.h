@@ -40,6 +40,7 @@ private:
     struct Selection;
 
     bool read(const Selection& selection, const Values& values, const RecordHandler& handler);
+    bool updateValidity(qint64 person, const PersonInfo& old, const PersonInfo& info);
     bool putFace(qint64 person, int slot, const QByteArray& bytes);
     bool putFields(qint64 person, const QMap<QString, QString>& fields);
     std::optional<qint64> stored(const QDateTime& time);

@@ -1,5 +1,6 @@
 #include "Register.h"
 
+#include "Announcing.h"
 #include "Backup.h"
 #include "ChangeFeed.h"
 #include "Checkpointer.h"
@@ -103,7 +104,7 @@ void Register::close()
     std::swap(m_state, closed);
 }
 
-bool Register::catchUp(Announcements* announcements)
+bool Register::catchUp(Announcements& announcements)
 {
     if (m_store->hasForeignChanges())
         m_isBehind = true;
@@ -122,7 +123,7 @@ Announcements Register::takeForeignChanges()
         if (m_store->hasForeignChanges())
             m_isBehind = true;
         if (m_isBehind && m_store->beginRead()) {
-            if (!catchUp(&announcements))
+            if (!catchUp(announcements))
                 qCWarning(logData) << "reading other processes' changes:" << m_store->cause();
             m_store->rollback();
         }
@@ -153,7 +154,7 @@ bool Register::backup(const QString& filePath, QString* error)
         const std::unique_ptr<SqlStore> reader = makeStore();
         if (QFileInfo(filePath).canonicalFilePath() == QFileInfo(location).canonicalFilePath())
             reason = tr("It is the open store itself. Choose another file.");
-        else if (reader->open(location, &reason))
+        else if (reader->openBeside(location, &reason))
             backupStore(*reader, filePath, &reason);
     }
     if (!reason.isEmpty())
@@ -166,12 +167,13 @@ bool Register::checkConsistency(QString* problem)
     const QMutexLocker writing(&m_writing);
     QString finding = tr("No store is open.");
     if (m_store != nullptr) {
+        Announcements announcements;
         m_store->takeOver();
-        m_store->beginRead();
-        catchUp(nullptr);
-        finding = findInconsistency(*m_store, m_state);
+        finding = m_store->beginRead() && catchUp(announcements) ? findInconsistency(*m_store, m_state)
+                                                                 : m_store->cause();
         m_store->rollback();
         m_store->handOver();
+        announceInGuiThread(announcements);
     }
     set(problem, finding);
     return finding.isEmpty();

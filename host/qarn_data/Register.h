@@ -50,7 +50,7 @@ private:
 
     Register();
     bool load(QString* reason);
-    bool catchUp(Announcements* announcements); ///< inside a transaction
+    bool catchUp(Announcements& announcements); ///< inside a transaction
 
     mutable QReadWriteLock m_lock; ///< of m_state and m_location, taken after m_writing
     RegisterState m_state;

@@ -33,8 +33,11 @@ SqlStore::~SqlStore()
 bool SqlStore::open(const QString& location, QString* reason)
 {
     *reason = m_dialect->objection(location);
-    if (!reason->isEmpty())
-        return false;
+    return reason->isEmpty() && openBeside(location, reason);
+}
+
+bool SqlStore::openBeside(const QString& location, QString* reason)
+{
     if (connectTo(location) && migrate(reason)) {
         m_changeMark = changeMark();
         return true;

@@ -23,6 +23,9 @@ public:
 
     /// Connects and brings the schema up to date. False, with the reason, when the location stays as it is.
     bool open(const QString& location, QString* reason);
+    /// A further connection to a store that this process has open. Does not look at the file itself: closing
+    /// a file makes the process lose all its locks on it, and with them what protects the open store.
+    bool openBeside(const QString& location, QString* reason);
     void close();
 
     /// QtSql ties a connection to a thread; these let it go to the calling thread and away again.

@@ -20,6 +20,9 @@ namespace
 {
 
 constexpr int busyTimeoutMs = 5000;
+/// At this length of the journal (16 MiB) a writer waits for the disk; the Checkpointer comes before mostly.
+constexpr int journalPages = 4096;
+constexpr int cacheKiB = 16 * 1024; ///< an index of a large register fits in
 
 QString tr(const char* text)
 {

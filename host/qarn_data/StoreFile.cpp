@@ -69,8 +69,16 @@ private:
     QByteArray m_bytes;
 };
 
+// After an interrupted writer, or while one is at work, the newest pages stand in a journal.
+bool hasJournal(const QString& filePath)
+{
+    return QFileInfo(filePath + QStringLiteral("-wal")).size() > 0 ||
+           QFileInfo(filePath + QStringLiteral("-journal")).size() > 0;
+}
+
 QString contentObjection(const QString& filePath, int newestSchema)
 {
+    const bool hadJournal = hasJournal(filePath);
     QFile file(filePath);
     if (!file.open(QIODevice::ReadOnly))
         return tr("The file cannot be read: %1.").arg(file.errorString());
@@ -79,10 +87,8 @@ QString contentObjection(const QString& filePath, int newestSchema)
     const Header header(file.read(Header::Size));
     if (!header.isSqlite())
         return tr("The file is not a person register. Choose another file.");
-    // After an interrupted writer the newest pages, these numbers among them, may stand in its journal yet.
-    const bool hasJournal = QFileInfo(filePath + QStringLiteral("-wal")).size() > 0 ||
-                            QFileInfo(filePath + QStringLiteral("-journal")).size() > 0;
-    if (hasJournal)
+    // The header may be behind then. The database itself looks at what it says in the end.
+    if (hadJournal || hasJournal(filePath))
         return {};
     if (header.applicationId() != SqliteApplicationId && !header.isBlank())
         return tr("The file belongs to another program. Choose another file.");
@@ -90,7 +96,8 @@ QString contentObjection(const QString& filePath, int newestSchema)
         return tr("The file was written by a newer version (%1, this one knows %2). Update this program.")
             .arg(header.schemaVersion())
             .arg(newestSchema);
-    if (file.size() < header.fileSize())
+    // Asked anew: another process may have made the file longer since it was opened.
+    if (QFileInfo(filePath).size() < header.fileSize())
         return tr("The file is damaged: its end is missing. Restore it from a backup.");
     return {};
 }

@@ -1,9 +1,8 @@
 #include "WriteSession.h"
 
+#include "Announcing.h"
 #include "Checkpointer.h"
 #include "SqlStore.h"
-
-#include <qarn_data/DataService.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -17,19 +16,6 @@ namespace
 QString tr(const char* text)
 {
     return QCoreApplication::translate("qarn_data::WriteSession", text);
-}
-
-void announceInGuiThread(const Announcements& announcements)
-{
-    if (announcements.isEmpty())
-        return;
-    QMetaObject::invokeMethod(
-        &DataService::instance(),
-        [announcements] {
-            for (const Announcement& announce : announcements)
-                announce();
-        },
-        Qt::QueuedConnection);
 }
 
 } // namespace
@@ -60,7 +46,7 @@ bool WriteSession::begin()
     }
     Announcements announcements;
     m_isActive = store().beginWrite();
-    const bool ok = m_isActive && m_register.catchUp(&announcements);
+    const bool ok = m_isActive && m_register.catchUp(announcements);
     announceInGuiThread(announcements);
     if (!ok)
         fail();

@@ -53,6 +53,7 @@ void CustomFieldsModifyDlg::setUpTable()
     const QString icon = QStringLiteral(":/images/images/add_iconBt_n.png");
     m_ui->addFieldBt->setIcons(icon, icon);
 
+    m_ui->tableWidget->setMouseTracking(true);
     // Every way to edit leads through editName(), which sees to the check of the name.
     m_ui->tableWidget->setEditTriggers(QAbstractItemView::NoEditTriggers);
     QHeaderView* header = m_ui->tableWidget->horizontalHeader();
@@ -92,6 +93,9 @@ void CustomFieldsModifyDlg::appendRow(const QString& name)
     const int row = m_ui->tableWidget->rowCount();
     m_ui->tableWidget->insertRow(row);
     m_ui->tableWidget->setItem(row, NameColumn, item);
+    auto* operItem = new QTableWidgetItem;
+    operItem->setFlags(operItem->flags() & ~Qt::ItemIsEditable); // Tab out of a name opens nothing here
+    m_ui->tableWidget->setItem(row, OperColumn, operItem);
     m_ui->tableWidget->setCellWidget(row, OperColumn, operWt);
 }
 
@@ -149,13 +153,18 @@ void CustomFieldsModifyDlg::save()
 void CustomFieldsModifyDlg::watchNameEditor(QLineEdit* editor, const QString& rowId)
 {
     editor->setMaxLength(CustomFieldNameMaxLength);
+    editor->selectAll(); // the limit has set the text anew
     m_nameEditor = editor;
     m_editedRowId = rowId;
     // Rows that light up under the mouse would disturb the editor.
     m_ui->tableWidget->setMouseTracking(false);
-    connect(editor, &QObject::destroyed, &m_editorWatch, [this, rowId] {
+    const QWidget* watched = editor; // reported when it is no line edit any more
+    connect(editor, &QObject::destroyed, &m_editorWatch, [this, watched, rowId] {
         checkName(rowId);
-        m_ui->tableWidget->setMouseTracking(m_nameEditor == nullptr); // not while the next one is open
+        if (m_nameEditor == nullptr || m_nameEditor == watched) { // else the next name is being edited
+            m_nameEditor.clear();
+            m_ui->tableWidget->setMouseTracking(true);
+        }
     });
 }
 

@@ -51,8 +51,7 @@ private:
     QStringList names(const QTableWidgetItem* except = nullptr) const;
 
     std::unique_ptr<Ui::CustomFieldsModifyDlg> m_ui;
-    QPointer<QLineEdit>
-        m_nameEditor; ///< null when no name is edited, or the table has closed it and it is gone
+    QPointer<QWidget> m_nameEditor; ///< null: no name is edited, and none waits to be checked
     QString m_editedRowId;
     /// Receiver of what the line editors report. It goes with the members, before the child widgets: an
     /// editor that dies with the dialog is not answered by a half destroyed one.

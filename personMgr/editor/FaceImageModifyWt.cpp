@@ -42,8 +42,7 @@ QByteArray encodeJpeg(const QPixmap& picture)
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    picture.save(&buffer, "jpg");
-    return bytes;
+    return picture.save(&buffer, "jpg") ? bytes : QByteArray();
 }
 } // namespace
 
@@ -81,8 +80,11 @@ void FaceImageModifyWt::getPersonInfo(PersonInfo& info) const
     for (int i = 0; i < m_slots.size(); ++i) {
         QByteArray& image = info.*FaceMembers[i];
         image.clear();
-        if (!m_slots[i].isEmpty())
-            image = encodeJpeg(QPixmap::fromImage(PhotoDecoder::decode(m_slots[i].bytes)));
+        if (m_slots[i].isEmpty())
+            continue;
+        image = encodeJpeg(QPixmap::fromImage(PhotoDecoder::decode(m_slots[i].bytes)));
+        if (image.isEmpty()) // no memory, or larger than a JPEG can be: better as it came than lost
+            image = m_slots[i].bytes;
     }
 }
 

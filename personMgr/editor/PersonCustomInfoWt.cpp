@@ -20,6 +20,7 @@ const QMargins SectionMargins(0, 25, 230, 0);
 const QMargins RowMargins(0, 0, 90, 0);
 constexpr int SectionSpacing = 10;
 constexpr int RowSpacing = 20;
+constexpr int HintIndent = 18; ///< below the text of the section's header
 constexpr QSize EditSize(205, 28);
 constexpr int ValueMaxLength = 64;
 } // namespace
@@ -34,8 +35,7 @@ PersonCustomInfoWt::PersonCustomInfoWt(QWidget* parent) : QWidget(parent)
         addRow(layout, name);
     if (names.isEmpty()) {
         auto* hint = new QLabel(tr("Please add custom field first"), this);
-        hint->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        hint->setContentsMargins(RowMargins);
+        hint->setIndent(HintIndent);
         layout->addWidget(hint);
     }
     // The editor adds this height to its own before it has laid the section out.
@@ -47,6 +47,7 @@ void PersonCustomInfoWt::addRow(QVBoxLayout* layout, const QString& name)
     auto* row = new QHBoxLayout;
     row->setContentsMargins(RowMargins);
     row->setSpacing(RowSpacing);
+    row->addStrut(EditSize.height()); // a style sheet may take the edit's own minimum away
     layout->addLayout(row);
 
     auto* label = new ElidedLabel(name, this);

@@ -4,6 +4,8 @@
 
 #include <qarn_data/PersonInfo.h>
 
+#include <QEvent>
+
 using qarn_data::PersonInfo;
 
 namespace qarn_personMgr
@@ -14,6 +16,10 @@ PersonExtraInfoWt::PersonExtraInfoWt(QWidget* parent)
       m_ui(std::make_unique<Ui::PersonExtraInfoWt>())
 {
     m_ui->setupUi(this);
+    for (QDateEdit* date : {m_ui->birthDate, m_ui->employDate}) {
+        date->setFocusPolicy(Qt::StrongFocus);
+        date->installEventFilter(this);
+    }
 }
 
 PersonExtraInfoWt::~PersonExtraInfoWt() = default;
@@ -38,6 +44,16 @@ void PersonExtraInfoWt::getPersonInfo(PersonInfo& info) const
     info.job = m_ui->job->text().trimmed();
     info.employDate = m_ui->employDate->date();
     info.address = m_ui->address->text().trimmed();
+}
+
+bool PersonExtraInfoWt::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto* date = qobject_cast<QDateEdit*>(watched);
+    if (date != nullptr && event->type() == QEvent::Wheel && !date->hasFocus()) {
+        event->ignore(); // goes on to the scroll area
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace qarn_personMgr

@@ -27,6 +27,10 @@ public:
     void setPersonInfo(const qarn_data::PersonInfo& info); ///< an invalid date leaves its input as it is
     void getPersonInfo(qarn_data::PersonInfo& info) const;
 
+protected:
+    /// Keeps the wheel, which is to scroll the form, from changing a date that has not the focus.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     std::unique_ptr<Ui::PersonExtraInfoWt> m_ui;
 };

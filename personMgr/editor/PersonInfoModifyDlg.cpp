@@ -22,6 +22,8 @@ PersonInfoModifyDlg::PersonInfoModifyDlg(QWidget* parent)
 
     m_modifyWt = new PersonInfoModifyWt(m_ui->scrollArea);
     m_ui->scrollArea->setWidget(m_modifyWt);
+    // Who looks for "cancelBt" by name shall meet this dialog's before the one of the form's period picker.
+    m_ui->scrollArea->raise();
 
     connect(m_ui->addBt, &QPushButton::clicked, this, &PersonInfoModifyDlg::slotAddBtClicked);
     connect(m_ui->addContinuouslyBt, &QPushButton::clicked, this,

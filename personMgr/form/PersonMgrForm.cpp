@@ -68,7 +68,8 @@ void PersonMgrForm::setStyles()
     setBackgroundColor(QColor(0x0b, 0x12, 0x1e));
     setStyleProperty(m_ui->searchBt, "common_bt_style1");
     setStyleProperty(m_ui->resetBt, "common_bt_style2");
-    for (IconButton* button : m_ui->widget_4->findChildren<IconButton*>())
+    const QList<IconButton*> toolBar = m_ui->widget_4->findChildren<IconButton*>();
+    for (IconButton* button : toolBar)
         setStyleProperty(button, "common_bt_style2");
     setStyleProperty(m_ui->scrollArea->verticalScrollBar(), "common_scrollBar_style3");
     setStyleProperty(m_ui->selAll, "conmmon_checkbox_style1");
@@ -87,6 +88,8 @@ void PersonMgrForm::setToolBarIcons()
         {m_ui->setCustomFieldsBt, QStringLiteral(":/images/images/config_iconBt_n.png")}};
     for (const auto& icon : icons)
         icon.first->setIcons(icon.second, icon.second);
+    // The buttons' own least width would let a longer text be cut when the page is narrow.
+    m_ui->widget_4->setMinimumWidth(m_ui->horizontalLayout_4->sizeHint().width());
 }
 
 void PersonMgrForm::createTable()

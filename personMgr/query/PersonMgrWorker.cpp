@@ -3,10 +3,12 @@
 #include "query/PageRule.h"
 #include "query/PersonFilter.h"
 #include "query/PersonQueryCondition.h"
+#include "query/ReadAhead.h"
 
 #include <qarn_data/PersonData.h>
 
 #include <QSet>
+#include <QVector>
 #include <algorithm>
 
 using qarn_data::PersonData;
@@ -24,17 +26,34 @@ QList<PersonInfo> fetch(const QStringList& organizationIds)
     return PersonData::instance().getPersons(organizationIds, false);
 }
 
+QVector<int> matching(const QList<PersonInfo>& persons, const PersonQueryCondition& condition)
+{
+    QVector<int> indexes;
+    PresentMoment now;
+    const ReadAhead readAhead(persons);
+    for (int i = 0; i < persons.count(); ++i) {
+        readAhead.passingName(i);
+        if (matches(persons.at(i), condition, now))
+            indexes.append(i);
+    }
+    return indexes;
+}
+
 /// Copies those who stay instead of removing the others: the fetched list is shared with the data service,
 /// and taking a single entry out of it would copy all of it first.
 QList<PersonInfo> filtered(const QList<PersonInfo>& persons, const PersonQueryCondition& condition)
 {
     if (!isSelective(condition))
         return persons;
+    constexpr int ahead = 4;
+    const QVector<int> indexes = matching(persons, condition);
+    const ReadAhead readAhead(persons);
     QList<PersonInfo> kept;
-    PresentMoment now;
-    for (const PersonInfo& person : persons) {
-        if (matches(person, condition, now))
-            kept.append(person);
+    kept.reserve(indexes.count());
+    for (int i = 0; i < indexes.count(); ++i) {
+        if (i + ahead < indexes.count())
+            readAhead.beforeCopying(indexes.at(i + ahead));
+        kept.append(persons.at(indexes.at(i)));
     }
     return kept;
 }

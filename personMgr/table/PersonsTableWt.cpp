@@ -98,7 +98,8 @@ void PersonsTableWt::setAllChecked(bool checked)
 QStringList PersonsTableWt::getCheckedPersonIds() const
 {
     QStringList ids;
-    for (const PersonInfo& person : getCheckedPersons())
+    const QList<PersonInfo> persons = getCheckedPersons();
+    for (const PersonInfo& person : persons)
         ids.append(person.id);
     return ids;
 }

@@ -69,12 +69,12 @@ QStringList TextCell::visibleLines(bool* cut) const
     return lines;
 }
 
-void TextCell::paintEvent(QPaintEvent* event)
+void TextCell::paintEvent(QPaintEvent* /*event*/)
 {
-    QFrame::paintEvent(event);
+    QPainter painter(this);
+    drawFrame(&painter);
     const QStringList lines = visibleLines();
     const int lineHeight = fontMetrics().lineSpacing();
-    QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
     QRect line(contentsRect().x(), 0, contentsRect().width(), lineHeight);
     line.moveTop(contentsRect().center().y() - static_cast<int>(lines.count()) * lineHeight / 2);

@@ -61,6 +61,8 @@ bool ExportPersonsThread::exportFile(const QList<PersonInfo>& persons)
     if (!writer.open())
         return false;
     m_organizationNames.clear();
+    m_maleWord = qarn_base::BaseTools::instance().strSex(true);
+    m_femaleWord = qarn_base::BaseTools::instance().strSex(false);
     writer.writeRow(m_headerTitles);
     for (const PersonInfo& person : persons)
         writer.writeRow(row(person));
@@ -70,6 +72,7 @@ bool ExportPersonsThread::exportFile(const QList<PersonInfo>& persons)
 QStringList ExportPersonsThread::row(const PersonInfo& person)
 {
     QStringList values;
+    values.reserve(m_headerTitles.count());
     const auto has = [this](PersonColumn column) { return (m_columnMask & column) != 0; };
     if (has(SerialNumColumn))
         values.append(person.serialNum);
@@ -78,7 +81,7 @@ QStringList ExportPersonsThread::row(const PersonInfo& person)
     if (has(OrganizationColumn))
         values.append(organizationName(person.organizationId));
     if (has(SexColumn))
-        values.append(qarn_base::BaseTools::instance().strSex(person.sex == 1));
+        values.append(person.sex == 1 ? m_maleWord : m_femaleWord);
     if (has(EmailColumn))
         values.append(person.email);
     if (has(PhoneNumColumn))

@@ -49,6 +49,8 @@ private:
     const bool m_faceMode;
     const QString m_path;                        ///< the person file or the directory of the face files
     QHash<QString, QString> m_organizationNames; ///< full name by id; many persons share one
+    QString m_maleWord;
+    QString m_femaleWord;
 };
 
 } // namespace qarn_personMgr

@@ -9,7 +9,8 @@
 #include <qarn_worker/DictDef.h>
 #include <qarn_worker/SystemAssistant.h>
 
-#include <QMouseEvent>
+#include <QKeyEvent>
+#include <QPointer>
 #include <QStandardPaths>
 #include <QToolTip>
 
@@ -29,6 +30,15 @@ QString desktopDirectory()
 void alert(const QString& title, const QString& text)
 {
     qarn_worker::SystemAssistant::instance().messageAlert(title, text);
+}
+
+/// A key that a link answers to.
+bool isActivation(const QEvent& event)
+{
+    if (event.type() != QEvent::KeyPress)
+        return false;
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
 }
 
 void showToolTip(QWidget* field, const QString& text)
@@ -74,9 +84,11 @@ QList<int> ImportPersonsDlg::getNamingRule() const
 
 bool ImportPersonsDlg::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_ui->downloadTemplate) {
-        if (event->type() == QEvent::MouseButtonRelease)
-            downloadTemplate();
+    if (watched == m_ui->downloadTemplate && event->type() == QEvent::MouseButtonRelease)
+        downloadTemplate();
+    if (watched == m_ui->downloadTemplate && isActivation(*event)) {
+        downloadTemplate();
+        return true; // else the dialog's default button would take the key too
     }
     return CommonDialog::eventFilter(watched, event);
 }
@@ -104,14 +116,17 @@ void ImportPersonsDlg::showMode(bool faceMode)
 
 void ImportPersonsDlg::browse()
 {
-    QString& path = isFaceMode() ? m_facesDirPath : m_infoFilePath;
-    if (isFaceMode())
-        path =
-            XFileDialog::getExistingDirectory(this, tr("Select Person faces dir"), desktopDirectory(),
-                                              QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
-    else
-        path = XFileDialog::getOpenFileName(this, tr("Select Person info file"), desktopDirectory(),
-                                            QStringLiteral("CSV(*.csv)"));
+    const QPointer<ImportPersonsDlg> guard(this); // may go while the chooser is open
+    const bool faceMode = isFaceMode();
+    const QString path =
+        faceMode
+            ? XFileDialog::getExistingDirectory(this, tr("Select Person faces dir"), desktopDirectory(),
+                                                QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks)
+            : XFileDialog::getOpenFileName(this, tr("Select Person info file"), desktopDirectory(),
+                                           QStringLiteral("CSV(*.csv)"));
+    if (guard.isNull())
+        return;
+    (faceMode ? m_facesDirPath : m_infoFilePath) = path;
     m_ui->filePath->setText(path);
 }
 

@@ -34,9 +34,8 @@ void setUnlessEmpty(QString& member, const QString& field)
         member = text;
 }
 
-void setUnlessInvalid(QDateTime& member, const QString& field, const QTime& time)
+void setUnlessInvalid(QDateTime& member, const QDateTime& dateTime)
 {
-    const QDateTime dateTime = importedDateTime(field, time);
     if (dateTime.isValid())
         member = dateTime;
 }
@@ -70,6 +69,7 @@ void ImportPersonsThread::run()
     m_serialNums = PersonData::instance().getAllPersonsSerialNum();
     m_names = PersonData::instance().getAllPersonsName();
     m_newPersons.clear();
+    m_blankPerson = PersonInfo();
     if (m_faceMode)
         importFaces();
     else
@@ -78,7 +78,7 @@ void ImportPersonsThread::run()
 
 void ImportPersonsThread::importFile()
 {
-    PersonFileReader reader(m_path, tr("*Serial Num"));
+    PersonFileReader reader(m_path, serialNumTitle());
     if (!reader.open())
         return fail(tr("Failed to open the file containing face information"));
     QStringList fields;
@@ -103,8 +103,8 @@ void ImportPersonsThread::importRow(const QStringList& fields)
         person.sex = sex.toInt();
     setUnlessEmpty(person.phoneNum, fields[PhoneNumField]);
     setUnlessEmpty(person.email, fields[EmailField]);
-    setUnlessInvalid(person.validStartTime, fields[ValidTimeField], QTime(0, 0));
-    setUnlessInvalid(person.validEndTime, fields[InvalidTimeField], QTime(23, 59, 59));
+    setUnlessInvalid(person.validStartTime, m_validDays.read(fields[ValidTimeField]));
+    setUnlessInvalid(person.validEndTime, m_invalidDays.read(fields[InvalidTimeField]));
     if (!serialNum.isEmpty())
         m_serialNums.insert(serialNum);
     if (!name.isEmpty())
@@ -146,17 +146,17 @@ void ImportPersonsThread::importFace(const QFileInfo& file)
 /// persons are not in the register yet; it gets a serial number of its own.
 PersonInfo ImportPersonsThread::findPerson(const QString& serialNum, const QString& name) const
 {
-    PersonInfo person;
     if (!serialNum.isEmpty() && m_serialNums.contains(serialNum)) {
-        person = PersonData::instance().getPersonBySerialNum(serialNum, false);
+        PersonInfo person = PersonData::instance().getPersonBySerialNum(serialNum, false);
         if (!name.isEmpty())
             person.name = name;
-    } else if (serialNum.isEmpty() && !name.isEmpty() && m_names.contains(name)) {
-        person = PersonData::instance().getPersonByName(name, false);
-    } else {
-        person.serialNum = serialNum;
-        person.name = name;
+        return person;
     }
+    if (serialNum.isEmpty() && !name.isEmpty() && m_names.contains(name))
+        return PersonData::instance().getPersonByName(name, false);
+    PersonInfo person = m_blankPerson;
+    person.serialNum = serialNum;
+    person.name = name;
     return person;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "transfer/ImportedDays.h"
+
 #include <XCOMMON/XThread.h>
 #include <qarn_data/PersonInfo.h>
 
@@ -55,6 +57,9 @@ private:
     QSet<QString> m_names;                      ///< likewise
     const QList<int> m_namingRule;              ///< ImportNameElement codes; photographs only
     QList<qarn_data::PersonInfo> m_newPersons;
+    qarn_data::PersonInfo m_blankPerson; ///< a new person; valid from the start of the run
+    ImportedDays m_validDays{QTime(0, 0)};
+    ImportedDays m_invalidDays{QTime(23, 59, 59)};
 };
 
 } // namespace qarn_personMgr

@@ -26,11 +26,23 @@ QString templateText(const char* text)
     return QCoreApplication::translate("qarn_personMgr::ImportPersonsDlg", text);
 }
 
+/// Over the zeros that end at this position.
+void writeDigits(QString& text, int last, int number)
+{
+    for (; number > 0; number /= 10)
+        text[last--] = QChar('0' + number % 10);
+}
+
 } // namespace
 
-QString personFileLine(const QStringList& fields)
+void appendPersonFileLine(QString& text, const QStringList& fields)
 {
-    return fields.join(PersonFileSeparator) + QStringLiteral(",\n");
+    for (int i = 0; i < fields.count(); ++i) {
+        if (i > 0)
+            text += PersonFileSeparator;
+        text += fields[i];
+    }
+    text += QLatin1String(",\n");
 }
 
 QList<QStringList> importTemplateRows()
@@ -43,8 +55,7 @@ QList<QStringList> importTemplateRows()
         QT_TRANSLATE_NOOP("qarn_personMgr::ImportPersonsDlg",
                           "4. Hierarchical use / segmentation of the organization"),
     };
-    static const char* const titles[ImportFieldCount] = {
-        QT_TRANSLATE_NOOP("qarn_personMgr::ImportPersonsDlg", "*Serial Num"),
+    static const char* const furtherTitles[ImportFieldCount - 1] = {
         QT_TRANSLATE_NOOP("qarn_personMgr::ImportPersonsDlg", "*Person Name"),
         QT_TRANSLATE_NOOP("qarn_personMgr::ImportPersonsDlg", "*Organization"),
         QT_TRANSLATE_NOOP("qarn_personMgr::ImportPersonsDlg", "*Sex"),
@@ -56,11 +67,16 @@ QList<QStringList> importTemplateRows()
     QList<QStringList> rows;
     for (const char* rule : rules)
         rows.append({templateText(rule)});
-    QStringList header;
-    for (const char* title : titles)
+    QStringList header{serialNumTitle()};
+    for (const char* title : furtherTitles)
         header.append(templateText(title));
     rows.append(header);
     return rows;
+}
+
+QString serialNumTitle()
+{
+    return templateText(QT_TRANSLATE_NOOP("qarn_personMgr::ImportPersonsDlg", "*Serial Num"));
 }
 
 QStringList importFields(const QString& line)
@@ -102,7 +118,15 @@ QDateTime importedDateTime(const QString& date, const QTime& time)
 
 QString exportedDate(const QDateTime& dateTime)
 {
-    return dateTime.date().toString(QStringLiteral("yyyy/MM/dd"));
+    const QDate date = dateTime.date();
+    if (date.year() < 1 || date.year() > 9999)
+        return date.toString(QStringLiteral("yyyy/MM/dd"));
+    // By hand, since every exported person has two dates.
+    QString text(QStringLiteral("0000/00/00"));
+    writeDigits(text, 3, date.year());
+    writeDigits(text, 6, date.month());
+    writeDigits(text, 9, date.day());
+    return text;
 }
 
 QStringList organizationLevels(const QString& path)

@@ -37,12 +37,16 @@ enum ImportField {
 /// The separator of person files. Values are written as they are: there is no quoting.
 constexpr QChar PersonFileSeparator(',');
 
-/// A line as both writers put it out: every field, the last one too, is followed by the separator.
-QString personFileLine(const QStringList& fields);
+/// Appends a line as both writers put it out: the last field too is followed by the separator.
+void appendPersonFileLine(QString& text, const QStringList& fields);
 
 /// The lines of the empty import template, without their separators and line ends: the rules, one field
 /// each, then the titles of the columns.
 QList<QStringList> importTemplateRows();
+
+/// The first title of the template, by which an import finds the line above the persons: one text for both,
+/// so that a template is understood in every language.
+QString serialNumTitle();
 
 /// The first ImportFieldCount fields of a line; fewer when the line has fewer.
 QStringList importFields(const QString& line);

@@ -7,10 +7,18 @@
 namespace qarn_personMgr
 {
 
+namespace
+{
+
+constexpr int UsualLineLength = 1024; // kept from row to row
+
+} // namespace
+
 PersonFileWriter::PersonFileWriter(const QString& filePath) : m_file(filePath)
 {
     // A file in a directory that takes no new ones can still be rewritten in place.
     m_file.setDirectWriteFallback(true);
+    m_line.reserve(UsualLineLength);
 }
 
 bool PersonFileWriter::open()
@@ -26,7 +34,9 @@ bool PersonFileWriter::open()
 
 void PersonFileWriter::writeRow(const QStringList& fields)
 {
-    m_stream << personFileLine(fields);
+    m_line.resize(0);
+    appendPersonFileLine(m_line, fields);
+    m_stream << m_line;
 }
 
 bool PersonFileWriter::finish()

@@ -24,6 +24,7 @@ public:
 private:
     QSaveFile m_file;
     QTextStream m_stream;
+    QString m_line;
 };
 
 } // namespace qarn_personMgr

@@ -10,7 +10,10 @@
 #include <qarn_worker/DictDef.h>
 #include <qarn_worker/SystemAssistant.h>
 
+#include <QPointer>
 #include <QUuid>
+
+#include <memory>
 
 using qarn_base::BaseTools;
 using qarn_base::ItemModifyDlg;
@@ -103,25 +106,27 @@ void PersonMgrTree::showOrganizationModifyDlg(ModifyType modifyType, const TreeI
         BaseTools::instance().getRootParentWt(this));
     dialog->setNameMaxLength(NameMaxLength);
 
-    OrganizationInfo record;
+    auto record = std::make_shared<OrganizationInfo>(); // one for all that is added in this run
     if (modifyType == ItemModifyDlg::AddItem) {
-        record.parentId = item->getId();
-        record.name = makeDefaultOrganizationName(item);
-        dialog->setModifyType(modifyType, tr("Add Organization"), record.name, record.id);
+        *record = {QString(), item->getId(), makeDefaultOrganizationName(item)};
+        dialog->setModifyType(modifyType, tr("Add Organization"), record->name, record->id);
     } else {
-        record = {item->getId(), item->getParentId(), item->getName()};
-        dialog->setModifyType(modifyType, tr("Edit Organization"), record.name, record.id);
+        *record = {item->getId(), item->getParentId(), item->getName()};
+        dialog->setModifyType(modifyType, tr("Edit Organization"), record->name, record->id);
     }
 
-    connect(dialog, &ItemModifyDlg::signalAddItem, this, [&](const QString& name, bool keepAdding) {
-        addOrganizationFromDlg(record, *dialog, name, keepAdding);
+    connect(dialog, &ItemModifyDlg::signalAddItem, this,
+            [this, record, dialog](const QString& name, bool keepAdding) {
+                addOrganizationFromDlg(*record, *dialog, name, keepAdding);
+            });
+    connect(dialog, &ItemModifyDlg::signalEditItem, this, [record](const QString&, const QString& name) {
+        record->name = name;
+        PersonData::instance().updateOrganization(*record);
     });
-    connect(dialog, &ItemModifyDlg::signalEditItem, this, [&record](const QString&, const QString& name) {
-        record.name = name;
-        PersonData::instance().updateOrganization(record);
-    });
+    const QPointer<ItemModifyDlg> guard(dialog); // goes with its parent when the client quits meanwhile
     dialog->exec();
-    dialog->deleteLater();
+    if (guard)
+        guard->deleteLater();
 }
 
 void PersonMgrTree::addOrganizationFromDlg(OrganizationInfo& record, ItemModifyDlg& dialog,

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -61,12 +62,15 @@ private slots:
     void savesUnderATypedName();
     void asksBeforeItReplaces();
     void doesNotTakeTheSelectedFileForTheTypedOne();
+    void replacesAFileOfAnotherDirectoryWhereItLies();
     void opensAFile();
     void picksADirectory();
     void givesNothingWhenCancelled_data();
     void givesNothingWhenCancelled();
     void startsWithAFileName();
+    void startsAtHomeWhereTheDirectoryIsMissing();
     void givesTheChosenFilter();
+    void givesNothingWhenItsParentGoes();
 
 private:
     QString path(const QString& name) const { return m_directory.filePath(name); }
@@ -191,6 +195,25 @@ void tst_XFileDialog::doesNotTakeTheSelectedFileForTheTypedOne()
     QCOMPARE(driver.pending(), 0);
 }
 
+void tst_XFileDialog::replacesAFileOfAnotherDirectoryWhereItLies()
+{
+    QTemporaryDir elsewhere;
+    const QString existing = elsewhere.filePath(QStringLiteral("persons.csv"));
+    QFile file(existing);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    ModalDriver driver;
+    driver.expect([&existing](QWidget* dialog) {
+        typeName(dialog, existing);
+        press(dialog, QDialogButtonBox::Save);
+    });
+    driver.expect([](QWidget* question) {
+        QTest::mouseClick(qobject_cast<QMessageBox*>(question)->button(QMessageBox::Yes), Qt::LeftButton);
+    });
+    QCOMPARE(XFileDialog::getSaveFileName(nullptr, QString(), m_directory.path(), csvFilter), existing);
+    QCOMPARE(driver.pending(), 0);
+}
+
 void tst_XFileDialog::opensAFile()
 {
     touch(path(QStringLiteral("face.jpg")));
@@ -250,6 +273,18 @@ void tst_XFileDialog::startsWithAFileName()
     QCOMPARE(driver.pending(), 0);
 }
 
+void tst_XFileDialog::startsAtHomeWhereTheDirectoryIsMissing()
+{
+    ModalDriver driver;
+    driver.expect([](QWidget* dialog) {
+        QCOMPARE(qobject_cast<QFileDialog*>(dialog)->directory(), QDir::home());
+        QVERIFY(dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text().isEmpty());
+        press(dialog, QDialogButtonBox::Cancel);
+    });
+    XFileDialog::getOpenFileName(nullptr, QString(), path(QStringLiteral("Desktop")), csvFilter);
+    QCOMPARE(driver.pending(), 0);
+}
+
 void tst_XFileDialog::givesTheChosenFilter()
 {
     ModalDriver driver;
@@ -262,6 +297,16 @@ void tst_XFileDialog::givesTheChosenFilter()
                                           QStringLiteral("CSV(*.csv);;Text (*.txt)"), &filter),
              path(QStringLiteral("list.txt")));
     QCOMPARE(filter, QStringLiteral("Text (*.txt)"));
+}
+
+/// The client may quit while the dialog is open.
+void tst_XFileDialog::givesNothingWhenItsParentGoes()
+{
+    ModalDriver modal;
+    const QPointer<QWidget> parent = new QWidget;
+    modal.expect([parent](QWidget*) { delete parent.data(); });
+    QCOMPARE(XFileDialog::getOpenFileName(parent, "Open", m_directory.path(), csvFilter), QString());
+    QVERIFY(parent.isNull());
 }
 
 QTEST_MAIN(tst_XFileDialog)

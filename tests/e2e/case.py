@@ -13,7 +13,8 @@ CLIENT = pathlib.Path(os.environ["QARN_CLIENT"])
 SIMULATOR = pathlib.Path(os.environ["QARN_SIMULATOR"])
 PLUGINS = pathlib.Path(os.environ["QARN_PROBE_PLUGINS"])
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-PORTRAITS = sorted((ROOT / "samples" / "portraits").glob("*.jpg"))
+SAMPLES = ROOT / "samples"
+PORTRAITS = sorted((SAMPLES / "portraits").glob("*.jpg"))
 
 
 class EndToEnd(unittest.TestCase):

@@ -4,6 +4,7 @@ are, xdotool moves the mouse and types."""
 import json
 import os
 import pathlib
+import re
 import signal
 import socket
 import subprocess
@@ -11,7 +12,7 @@ import tempfile
 import time
 
 SCREENSHOTS = pathlib.Path(os.environ.get("QARN_SCREENSHOTS", "screenshots"))
-PATIENCE = 6.0  # seconds until something that should happen must have happened
+PATIENCE = 30.0  # seconds until something that should happen must have happened
 
 
 class Desktop:
@@ -78,10 +79,10 @@ class Client:
         for area in areas:
             window = area["windowId"]
             if window not in origins:
-                output = subprocess.run(["xdotool", "getwindowgeometry", "--shell", str(window)],
-                                        env=self.desktop.environment, capture_output=True, text=True).stdout
-                values = dict(line.split("=", 1) for line in output.splitlines() if "=" in line)
-                origins[window] = (int(values.get("X", 0)), int(values.get("Y", 0)))
+                report = subprocess.run(["xwininfo", "-id", str(window)], env=self.desktop.environment,
+                                        capture_output=True, text=True).stdout
+                corner = re.findall(r"Absolute upper-left [XY]:\s+(-?\d+)", report)
+                origins[window] = tuple(map(int, corner)) if len(corner) == 2 else (0, 0)
             area["x"] += origins[window][0]
             area["y"] += origins[window][1]
         return areas

@@ -33,6 +33,7 @@ class FirstDay(EndToEnd):
         client.click("addFieldBt")
         client.write("Locker")
         client.key("Return")
+        self.picture(client, "own-fields")
         client.click("okBt")
 
         client.click_item("treeWidget", "Gate")
@@ -62,6 +63,7 @@ class FirstDay(EndToEnd):
         office = next(i for i in client.items("treeWidget") if i["text"] == "Office" and i["x"] > tree["x"]
                       and i["x"] < tree["x"] + tree["width"])
         client.click_at(office)
+        self.picture(client, "move-persons")
         client.click("okBt")
         client.until(lambda: not client.widgets("retainOld"), "the dialog closes")
         client.click_item("treeWidget", "Office")

@@ -73,6 +73,7 @@ private slots:
     void refusesAHugePictureByItsHeader();
     void storesAFreshJpegOfTheFullSize();
     void storesAPngAsJpeg();
+    void keepsWhatNoJpegCanHold();
     void standsPortraitPhotosUpright();
     void leavesUndecodableStoredImagesEmpty();
     void deletesOnlyTheShownSlot();
@@ -359,6 +360,17 @@ void tst_FaceImageModifyWt::storesAPngAsJpeg()
     m_slot->getPersonInfo(person);
     QVERIFY(person.faceImage1.startsWith("\xff\xd8\xff"));
     QCOMPARE(QImage::fromData(person.faceImage1, "jpg").size(), QSize(70, 50));
+}
+
+void tst_FaceImageModifyWt::keepsWhatNoJpegCanHold()
+{
+    PersonInfo person;
+    person.faceImage1 = plainPicture(Qt::magenta, QSize(66000, 8), "png");
+    const QByteArray asItCame = person.faceImage1;
+    m_slot->setPersonInfo(person);
+    QVERIFY(similar(shown(*m_slot), Qt::magenta));
+    m_slot->getPersonInfo(person);
+    QCOMPARE(person.faceImage1, asItCame);
 }
 
 void tst_FaceImageModifyWt::standsPortraitPhotosUpright()

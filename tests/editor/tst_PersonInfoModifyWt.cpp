@@ -63,6 +63,7 @@ private slots:
 
     void limitsTheFields();
     void hasTheSizesOfItsFields();
+    void keepsItsSizesUnderAStyleSheet();
     void showsARecord();
     void gathersWhatItShows();
     void gathersWhatIsTyped();
@@ -84,6 +85,7 @@ private slots:
     void unfoldsBothAndFoldsCustom();
     void unfoldsBothAndFoldsExtra();
     void scrollsToAnUnfoldedSection();
+    void leavesTheWheelToTheScrollArea();
     void picksThePeriod();
     void refusesAPeriodOverThreeYears();
 
@@ -151,6 +153,23 @@ void tst_PersonInfoModifyWt::hasTheSizesOfItsFields()
     QVERIFY(!child<QWidget>(m_form, "extraInfoWt")->isVisible());
     QCOMPARE(m_form->height(), 470); // fits without scrolling
     QCOMPARE(m_form->width(), 731);
+}
+
+void tst_PersonInfoModifyWt::keepsItsSizesUnderAStyleSheet()
+{
+    // A minimum in a style sheet takes the place of the form's own.
+    qApp->setStyleSheet("QLineEdit, QComboBox, QDateEdit { min-height: 18px; border: 1px solid gray; }");
+    toggle("customInfoExpandBt");
+    toggle("extraInfoExpandBt");
+    QCOMPARE(child<QWidget>(m_form, "customInfoWt")->height(), CustomHeight);
+    const auto edits = m_form->findChildren<QLineEdit*>();
+    for (const QLineEdit* edit : edits) {
+        if (edit->isVisible() && edit->objectName() != "qt_spinbox_lineedit")
+            QCOMPARE(edit->height(), 28);
+    }
+    for (const char* name : {"sex", "identityType", "birthDate", "employDate"})
+        QCOMPARE(child<QWidget>(m_form, name)->size(), QSize(205, 28));
+    qApp->setStyleSheet(QString());
 }
 
 void tst_PersonInfoModifyWt::showsARecord()
@@ -462,6 +481,24 @@ void tst_PersonInfoModifyWt::scrollsToAnUnfoldedSection()
     QVERIFY(visibleIn("extraInfoWt"));
     QVERIFY(m_area->verticalScrollBar()->maximum() > 0);
     QCOMPARE(m_area->verticalScrollBar()->value(), m_area->verticalScrollBar()->maximum());
+}
+
+void tst_PersonInfoModifyWt::leavesTheWheelToTheScrollArea()
+{
+    m_form->setPersonInfo(stored());
+    toggle("extraInfoExpandBt");
+    for (const char* name : {"birthDate", "employDate", "identityType", "sex"}) {
+        auto* field = child<QWidget>(m_form, name);
+        const QPoint at = field->rect().center();
+        QWheelEvent wheel(at, field->mapToGlobal(at), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(field, &wheel);
+        QVERIFY2(!wheel.isAccepted(), name); // goes on to what scrolls
+    }
+    QCOMPARE(m_form->getPersonInfo().birthDate, stored().birthDate);
+    QCOMPARE(m_form->getPersonInfo().employDate, stored().employDate);
+    QCOMPARE(m_form->getPersonInfo().identityType, stored().identityType);
+    QCOMPARE(m_form->getPersonInfo().sex, stored().sex);
 }
 
 void tst_PersonInfoModifyWt::picksThePeriod()

@@ -296,7 +296,7 @@ void tst_PersonCommands::definesCustomFields()
 /// The client may quit while a dialog of the page is open.
 void tst_PersonCommands::survivesItsEndInACommand()
 {
-    for (const char* command : {"addPersonBt", "movePersonsBt", "setCustomFieldsBt"}) {
+    for (const char* command : {"addOrganizationBt", "addPersonBt", "movePersonsBt", "setCustomFieldsBt"}) {
         PageFixture::data().deletePersons({"P1"});
         m_page->addPersons(1, "east");
         m_page->open();

@@ -39,6 +39,8 @@ void tst_DatetimeSpanRules::checks_data()
         << SpanProblem::TooLong;
     QTest::newRow("a day of 23 hours") << QDateTime({2026, 3, 29}, {0, 0}) << QDateTime({2026, 3, 30}, {0, 0})
                                        << qint64(82800) << SpanProblem::None;
+    QTest::newRow("skipped by the clock change")
+        << QDateTime({2026, 3, 29}, {2, 30}) << noon.addYears(1) << qint64(0) << SpanProblem::NoStart;
     QTest::newRow("no start") << QDateTime() << noon << ThreeYears << SpanProblem::NoStart;
     QTest::newRow("no end") << noon << QDateTime() << ThreeYears << SpanProblem::NoEnd;
 }

@@ -23,6 +23,7 @@ private slots:
     void confirmsUntouchedTimesExactly();
     void confirmsAnEdit();
     void keepsTheSecondHourOfTheClockChange();
+    void refusesATimeThatTheClockChangeSkips();
     void refusesEndBeforeStart();
     void refusesTooLongASpan();
     void refusalGoesWithTheNextEdit();
@@ -121,6 +122,24 @@ void tst_DatetimeSpanSelWt::keepsTheSecondHourOfTheClockChange()
     open(start, QDateTime({2026, 10, 26}, {0, 0}));
     click("okBt");
     QCOMPARE(changed.at(0).at(0).toDateTime().toMSecsSinceEpoch(), start.toMSecsSinceEpoch());
+}
+
+void tst_DatetimeSpanSelWt::refusesATimeThatTheClockChangeSkips()
+{
+    QSignalSpy changed(m_picker, &DatetimeSpanSelWt::signalDatetimeSpanSelChanged);
+    open(QDateTime({2026, 3, 28}, {2, 30}), QDateTime({2026, 4, 28}, {10, 0}));
+    field("startDateTime")->setFocus();
+    field("startDateTime")->setSelectedSection(QDateTimeEdit::DaySection);
+    QTest::keyClicks(field("startDateTime"), QStringLiteral("29"));
+    click("okBt");
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(field("startDateTime")->text(), QStringLiteral("2026-03-29 02:30:00"));
+    QVERIFY2(reason().contains(QStringLiteral("clock change")), qPrintable(reason()));
+    field("startDateTime")->setSelectedSection(QDateTimeEdit::HourSection);
+    QTest::keyClicks(field("startDateTime"), QStringLiteral("03"));
+    click("okBt");
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.at(0).at(0).toDateTime(), QDateTime({2026, 3, 29}, {3, 30}));
 }
 
 void tst_DatetimeSpanSelWt::refusesEndBeforeStart()

@@ -25,6 +25,7 @@ private slots:
     void numberFallsBackWithoutReturn();
     void numberStaysInRange();
     void pageSizeOnlyAnnounces();
+    void everyControlHasANameAndTheFocus();
     void wheelOverTheSizeChangesNothing();
 
 private:
@@ -169,6 +170,23 @@ void tst_PageEditWt::pageSizeOnlyAnnounces()
     QCOMPARE(asked.count(), 0);
     m_bar->updateTotalCnt(1000, 1);
     QCOMPARE(find<QLabel>("pageCount")->text(), QStringLiteral("10"));
+}
+
+void tst_PageEditWt::everyControlHasANameAndTheFocus()
+{
+    m_bar->updateTotalCnt(1000, 7);
+    for (const char* name : {"firstBt", "prevBt", "curPage", "nextBt", "lastBt", "pageSize"}) {
+        const auto* control = find<QWidget>(name);
+        QVERIFY2(!control->accessibleName().isEmpty(), name);
+        QVERIFY2(control->focusPolicy() & Qt::TabFocus, name);
+    }
+    QStringList walked;
+    find<QWidget>("firstBt")->setFocus();
+    for (int i = 0; i < 6; ++i) {
+        walked.append(m_bar->focusWidget()->objectName());
+        QTest::keyClick(m_bar->focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(walked, (QStringList{"firstBt", "prevBt", "curPage", "nextBt", "lastBt", "pageSize"}));
 }
 
 void tst_PageEditWt::wheelOverTheSizeChangesNothing()

@@ -31,6 +31,7 @@ private slots:
     void cleanup() { m_table.reset(); }
 
     void hoverStylesTheRow();
+    void selectedRowStaysSelectedUnderTheMouse();
     void hoverIsNoEdit();
     void noHoverWithoutMouseTracking();
     void hoverThroughTheRowsButtons();
@@ -75,6 +76,15 @@ void tst_TableWidget::hoverStylesTheRow()
     QEvent leave(QEvent::Leave);
     QApplication::sendEvent(m_table.get(), &leave);
     QCOMPARE(m_buttons.at(2)->style, TableOperWt::NormalStyle);
+}
+
+void tst_TableWidget::selectedRowStaysSelectedUnderTheMouse()
+{
+    moveTo(1);
+    m_table->selectRow(1);
+    QCOMPARE(m_buttons.at(1)->style, TableOperWt::SelectedStyle);
+    m_table->clearSelection();
+    QCOMPARE(m_buttons.at(1)->style, TableOperWt::HoverStyle);
 }
 
 void tst_TableWidget::hoverIsNoEdit()

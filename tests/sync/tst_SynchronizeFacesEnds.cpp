@@ -2,6 +2,7 @@
 #include "SyncRun.h"
 #include "TestStore.h"
 
+#include <dvx_client_sdk/ClientSignals.h>
 #include <qarn_contact/SystemMsg.h>
 
 #include <QRandomGenerator>
@@ -71,7 +72,7 @@ void tst_SynchronizeFacesEnds::quitEndsTheRunWithoutAWord()
     QTRY_COMPARE(sync.progress.count(), 1);
     emit SystemMsg::instance().signalPrepareQuitSystem();
     QVERIFY(sync.worker.wait(2000));
-    QTest::qWait(600); // the watchdog runs out meanwhile
+    QTRY_VERIFY(!sync.watchdog()->isActive()); // it has run out
     QCOMPARE(sync.timeouts.count(), 0);
     QCOMPARE(sync.finished.count(), 0);
 }
@@ -100,9 +101,11 @@ void tst_SynchronizeFacesEnds::answersAfterTheEndBreakNothing()
     sim.addToRegistry();
     SyncRun sync(QList<PersonInfo>{person("A", "Ann")}, Channels{{sim.id(), 1}}, true);
     sync.worker.setWatchdogInterval(100);
+    const QSignalSpy answers(&dvx_sdk::ClientSignals::instance(), &dvx_sdk::ClientSignals::signalGetFacesRes);
     QVERIFY(sync.run(5000));
     QCOMPARE(sync.timeouts.count(), 1);
-    QTest::qWait(700); // the answer comes meanwhile
+    QCOMPARE(answers.count(), 0);
+    QTRY_COMPARE(answers.count(), 1);
     QCOMPARE(sync.progress.count(), 1);
     sync.worker.slotAddFaceRes({});
     sync.worker.slotDelFaceRes({});

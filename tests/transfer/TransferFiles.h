@@ -9,6 +9,13 @@
 namespace transferFiles
 {
 
+/// AddressSanitizer keeps freed memory and makes large blocks slow; sizes and limits follow.
+#ifdef __SANITIZE_ADDRESS__
+constexpr bool sanitized = true;
+#else
+constexpr bool sanitized = false;
+#endif
+
 inline QString write(const QString& path, const QByteArray& bytes)
 {
     QFile file(path);

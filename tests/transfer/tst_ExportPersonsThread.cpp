@@ -334,5 +334,5 @@ void tst_ExportPersonsThread::succeedsWithFacesAlsoWhereItCannotWrite()
     QCOMPARE(ThreadRun(thread).events(), QStringList{"result true"});
 }
 
-QTEST_MAIN(tst_ExportPersonsThread)
+QTEST_GUILESS_MAIN(tst_ExportPersonsThread)
 #include "tst_ExportPersonsThread.moc"

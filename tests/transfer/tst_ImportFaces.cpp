@@ -201,5 +201,5 @@ void tst_ImportFaces::importsTheSampleDirectory()
              transferFiles::read(folder + QString::fromUtf8("/UK0001_Th\u00e9r\u00e8se Coffey.jpg")));
 }
 
-QTEST_MAIN(tst_ImportFaces)
+QTEST_GUILESS_MAIN(tst_ImportFaces)
 #include "tst_ImportFaces.moc"

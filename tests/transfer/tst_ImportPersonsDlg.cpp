@@ -3,6 +3,7 @@
 
 #include "transfer/ImportPersonsDlg.h"
 
+#include <qarn_base/SelDirLineEt.h>
 #include <qarn_worker/SystemAssistant.h>
 
 #include <QCheckBox>
@@ -10,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
@@ -29,6 +31,7 @@ private slots:
     void asksForTheRightThing();
     void emptiesThePathOnCancel_data();
     void emptiesThePathOnCancel();
+    void survivesItsEndWhileAPathIsChosen();
     void choosesAPathByKeyboard();
     void switchesTheModeByKeyboard();
     void ordersTheRuleByTheBoxes();
@@ -39,6 +42,8 @@ private slots:
     void writesTheTemplate();
     void tellsATemplateThatCannotBeWritten();
     void writesNothingOnCancel();
+    void downloadsByKeyboard_data();
+    void downloadsByKeyboard();
 
 private:
     QTemporaryDir m_directory;
@@ -82,7 +87,7 @@ ModalDriver::Action answer(const QString& path, QString* caption = nullptr)
             dialog->reject();
             return;
         }
-        part<QLineEdit>(*dialog, "fileNameEdit")->setText(path);
+        dialog->selectFile(path);
         QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection); // it may ask something in turn
     };
 }
@@ -193,6 +198,18 @@ void tst_ImportPersonsDlg::emptiesThePathOnCancel()
     QVERIFY2(dialog.getPath().isEmpty(), "the remembered path is gone too");
 }
 
+/// The client may quit while the chooser is open.
+void tst_ImportPersonsDlg::survivesItsEndWhileAPathIsChosen()
+{
+    const QPointer<ImportPersonsDlg> dialog = new ImportPersonsDlg(nullptr);
+    ModalDriver driver;
+    driver.expect([dialog](QWidget*) { delete dialog.data(); });
+    QMetaObject::invokeMethod(part<qarn_base::SelDirLineEt>(*dialog, "filePath"), "signalClicked",
+                              Qt::QueuedConnection);
+    QTRY_VERIFY(dialog.isNull());
+    QCOMPARE(driver.pending(), 0);
+}
+
 void tst_ImportPersonsDlg::choosesAPathByKeyboard()
 {
     const QString file = transferFiles::write(m_directory.filePath("persons.csv"), "x");
@@ -300,7 +317,9 @@ void tst_ImportPersonsDlg::writesTheTemplate()
     QString caption;
     driver.expect(answer(file, &caption));
     driver.expect([](QWidget* question) { // the file is there already
-        qobject_cast<QMessageBox*>(question)->button(QMessageBox::Yes)->click();
+        auto* box = qobject_cast<QMessageBox*>(question);
+        QVERIFY(box != nullptr);
+        box->button(QMessageBox::Yes)->click();
     });
     click(dialog, "downloadTemplate");
     QCOMPARE(caption, QString("Download Person import template"));
@@ -333,6 +352,29 @@ void tst_ImportPersonsDlg::writesNothingOnCancel()
     QCOMPARE(driver.pending(), 0);
     QCoreApplication::processEvents();
     QCOMPARE(alerts.count(), 0);
+}
+
+void tst_ImportPersonsDlg::downloadsByKeyboard_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("Return") << int(Qt::Key_Return);
+    QTest::newRow("Space") << int(Qt::Key_Space);
+}
+
+void tst_ImportPersonsDlg::downloadsByKeyboard()
+{
+    QFETCH(int, key);
+    const QString file = m_directory.filePath("by_keyboard.csv");
+    QFile::remove(file);
+    ImportPersonsDlg dialog(nullptr);
+    dialog.show();
+    ModalDriver driver;
+    driver.expect(answer(file));
+    auto* link = part<QLabel>(dialog, "downloadTemplate");
+    QVERIFY(link->focusPolicy() & Qt::TabFocus);
+    QTest::keyClick(link, Qt::Key(key));
+    QVERIFY(QFile::exists(file));
+    QVERIFY2(!QToolTip::isVisible(), "the key does not press the import button too");
 }
 
 QTEST_MAIN(tst_ImportPersonsDlg)

@@ -143,27 +143,27 @@ void tst_ImportRobustness::keepsTextWithANulByte()
 void tst_ImportRobustness::endsWhenTheFileShrinksUnderIt()
 {
     const QString file = path("shrinking.csv");
-    transferFiles::write(file, transferFiles::header() + QByteArray("too,short\n").repeated(3000000));
+    transferFiles::write(file, transferFiles::header() + QByteArray("too,short\n").repeated(1000000));
     ImportPersonsThread thread(file, nullptr);
     QSignalSpy results(&thread, &ImportPersonsThread::signalImportPersonsInfoResult);
     thread.start();
     QTRY_VERIFY(isOpen(file));
     QVERIFY(QFile::resize(file, 100000));
-    QVERIFY(thread.wait(60000));
+    QVERIFY(thread.wait(100000));
     QTRY_COMPARE(results.count(), 1);
 }
 
 void tst_ImportRobustness::endsWhenTheFileIsDeletedUnderIt()
 {
     const QString file = path("vanishing.csv");
-    transferFiles::write(file, transferFiles::header() + QByteArray("too,short\n").repeated(3000000) +
+    transferFiles::write(file, transferFiles::header() + QByteArray("too,short\n").repeated(1000000) +
                                    "A1,Anna,,,,,,,\n");
     ImportPersonsThread thread(file, nullptr);
     QSignalSpy results(&thread, &ImportPersonsThread::signalImportPersonsInfoResult);
     thread.start();
     QTRY_VERIFY(isOpen(file));
     QVERIFY(QFile::remove(file));
-    QVERIFY(thread.wait(60000));
+    QVERIFY(thread.wait(100000));
     QTRY_COMPARE(results.count(), 1);
     QVERIFY(results[0][0].toBool());
     QVERIFY2(PersonData::instance().isPersonSerialNumExist("A1"), "an open file can be read to its end");
@@ -184,7 +184,7 @@ void tst_ImportRobustness::refusesADirectoryWithoutPermission()
 
 void tst_ImportRobustness::importsFiftyThousandPhotographs()
 {
-    constexpr int count = 50000;
+    constexpr int count = transferFiles::sanitized ? 500 : 50000;
     const QByteArray first = QFile::encodeName(transferFiles::write(path("first"), QByteArray(2000, 'x')));
     for (int i = 0; i < count; ++i)
         QCOMPARE(
@@ -193,7 +193,7 @@ void tst_ImportRobustness::importsFiftyThousandPhotographs()
     ImportPersonsThread thread(m_directory->path(), PersonData::instance().getRootOrganizationId(), {0, 1},
                                nullptr);
     QCOMPARE(ThreadRun(thread).events(),
-             (QStringList{"stored 50000", "result true", importOutcome::finished}));
+             (QStringList{QStringLiteral("stored %1").arg(count), "result true", importOutcome::finished}));
     QCOMPARE(PersonData::instance().getAllPersons(true).count(), count);
 }
 

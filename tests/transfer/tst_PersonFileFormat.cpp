@@ -2,6 +2,8 @@
 
 #include "transfer/PersonFileFormat.h"
 
+#include <QTranslator>
+
 using namespace qarn_personMgr;
 
 class tst_PersonFileFormat : public QObject
@@ -10,6 +12,7 @@ class tst_PersonFileFormat : public QObject
 private slots:
     void endsEveryLineWithASeparator();
     void writesTheTemplateToTheByte();
+    void findsItsTemplateInEveryLanguage();
     void takesTheFirstEightFields_data();
     void takesTheFirstEightFields();
     void keepsAllowedSerialNumbers_data();
@@ -29,18 +32,38 @@ private slots:
 
 void tst_PersonFileFormat::endsEveryLineWithASeparator()
 {
-    QCOMPARE(personFileLine({"a", "b"}), QString("a,b,\n"));
-    QCOMPARE(personFileLine({"a"}), QString("a,\n"));
-    QCOMPARE(personFileLine({"", "b,c"}), QString(",b,c,\n")); // nothing is quoted
-    QCOMPARE(personFileLine({"a", "b"}).chopped(1).split(',').count(), 3);
+    QString text = "before\n";
+    appendPersonFileLine(text, {"a", "b"});
+    appendPersonFileLine(text, {"a"});
+    appendPersonFileLine(text, {"", "b,c"}); // nothing is quoted
+    appendPersonFileLine(text, {});
+    QCOMPARE(text, QString("before\na,b,\na,\n,b,c,\n,\n"));
+    QCOMPARE(text.split('\n')[1].split(',').count(), 3);
 }
 
 void tst_PersonFileFormat::writesTheTemplateToTheByte()
 {
     QString text;
     for (const QStringList& row : importTemplateRows())
-        text += personFileLine(row);
+        appendPersonFileLine(text, row);
     QCOMPARE(text.toUtf8(), transferFiles::read(TRANSFER_TEST_DATA "/template.csv"));
+}
+
+void tst_PersonFileFormat::findsItsTemplateInEveryLanguage()
+{
+    struct Marking : QTranslator {
+        QString translate(const char* context, const char* text, const char*, int) const override
+        {
+            return QString("%1 in %2").arg(text, context);
+        }
+        bool isEmpty() const override { return false; }
+    } language;
+    QVERIFY(QCoreApplication::installTranslator(&language));
+    const QList<QStringList> rows = importTemplateRows();
+    QCOMPARE(rows.last().first(), serialNumTitle());
+    QCOMPARE(serialNumTitle(), QString("*Serial Num in qarn_personMgr::ImportPersonsDlg"));
+    QCOMPARE(rows.first().first(), QString("Rules: in qarn_personMgr::ImportPersonsDlg"));
+    QCoreApplication::removeTranslator(&language);
 }
 
 void tst_PersonFileFormat::takesTheFirstEightFields_data()
@@ -187,7 +210,10 @@ void tst_PersonFileFormat::givesStartAndEndOfTheDay()
 
 void tst_PersonFileFormat::writesDates()
 {
-    QCOMPARE(exportedDate(QDateTime(QDate(2024, 3, 7), QTime(23, 59))), QString("2024/03/07"));
+    for (const QDate& date : {QDate(2024, 3, 7), QDate(2024, 12, 31), QDate(1, 1, 1), QDate(999, 10, 20),
+                              QDate(9999, 12, 31), QDate(10000, 1, 1), QDate(-44, 3, 15), QDate()})
+        QCOMPARE(exportedDate(QDateTime(date, QTime(23, 59))), date.toString("yyyy/MM/dd"));
+    QCOMPARE(exportedDate(QDateTime(QDate(2024, 3, 7), QTime(0, 0))), QString("2024/03/07"));
     QCOMPARE(exportedDate(QDateTime()), QString());
 }
 

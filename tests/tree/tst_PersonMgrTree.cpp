@@ -149,12 +149,7 @@ void tst_PersonMgrTree::select(const QString& id)
 TreeItemOperWt* tst_PersonMgrTree::buttonsOf(const QString& id)
 {
     select(id);
-    const auto all = m_tree->findChildren<TreeItemOperWt*>();
-    for (TreeItemOperWt* buttons : all) {
-        if (buttons->isVisible())
-            return buttons;
-    }
-    return nullptr;
+    return qobject_cast<TreeItemOperWt*>(m_tree->itemWidget(m_tree->getOrganizationItem(id), 0));
 }
 
 void tst_PersonMgrTree::needsASelection()

@@ -62,7 +62,8 @@ QWidget* AlertHistoryDlg::makeTable()
         text->setToolTip(alert.text.toHtmlEscaped());
         table->setItem(row, TextColumn, text);
     }
-    table->resizeRowsToContents();
+    // Not once: the width that the texts wrap in is known only when the dialog is laid out.
+    table->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     return table;
 }
 

@@ -11,6 +11,9 @@
 #include <QStandardPaths>
 #include <QUuid>
 
+#include <csignal>
+#include <sys/prctl.h>
+
 using qarn_data::Device;
 using qarn_data::DeviceRegistry;
 
@@ -21,6 +24,16 @@ const QString deviceId = QStringLiteral("demo-device");
 constexpr int channelCount = 2;
 constexpr int stopMs = 3000;
 const QByteArray readyPrefix = "listening on ";
+
+/// Ends with the client, also when that is killed.
+class DeviceProcess : public QProcess
+{
+public:
+    using QProcess::QProcess;
+
+protected:
+    void setupChildProcess() override { prctl(PR_SET_PDEATHSIG, SIGTERM); }
+};
 
 QString simulatorProgram()
 {
@@ -54,7 +67,7 @@ DemoDevice::~DemoDevice()
 void DemoDevice::start(const QString& directory)
 {
     m_token = QUuid::createUuid().toString(QUuid::WithoutBraces);
-    m_process = new QProcess(this);
+    m_process = new DeviceProcess(this);
     m_process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
     connect(m_process, &QProcess::readyReadStandardOutput, this, &DemoDevice::announce);
     connect(m_process, &QProcess::errorOccurred, this, [] {

@@ -75,7 +75,7 @@ PersonInfo make(int index)
     const FirstName& first = firstNames[random() % firstNames.size()];
     PersonInfo person;
     person.id = QUuid::createUuid().toString();
-    person.serialNum = QStringLiteral("P%1").arg(index + 1, 5, 10, QLatin1Char('0'));
+    person.serialNum = QStringLiteral("D%1").arg(index + 1, 5, 10, QLatin1Char('0'));
     person.sex = first.sex;
     person.name = index % everyOtherScript == everyOtherScript - 1
                       ? QString::fromUtf8(otherScripts[random() % otherScripts.size()])

@@ -2,11 +2,16 @@
 
 #include "style/Palette.h"
 
+#include <XCOMMON/HostImages.h>
+
+#include <QAbstractItemView>
+#include <QCalendarWidget>
 #include <QComboBox>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QStyledItemDelegate>
+#include <QTextCharFormat>
 
 namespace
 {
@@ -66,6 +71,15 @@ const char* imageFor(QStyle::StandardPixmap which)
     }
 }
 
+/// Qt's pure red cannot be read on a dark ground.
+void colorWeekend(QCalendarWidget& calendar)
+{
+    QTextCharFormat format;
+    format.setForeground(palette::color(palette::Link));
+    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
+        calendar.setWeekdayTextFormat(day, format);
+}
+
 bool hasPlainDelegate(const QComboBox& combo)
 {
     const QByteArray delegate = combo.itemDelegate()->metaObject()->className();
@@ -79,6 +93,11 @@ HostStyle::HostStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusio
 void HostStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
+    if (auto* calendar = qobject_cast<QCalendarWidget*>(widget))
+        colorWeekend(*calendar);
+    // A view that was built before it had a parent has measured its rows without the style sheet.
+    if (auto* view = qobject_cast<QAbstractItemView*>(widget))
+        QMetaObject::invokeMethod(view, &QAbstractItemView::doItemsLayout, Qt::QueuedConnection);
     auto* combo = qobject_cast<QComboBox*>(widget);
     if (combo != nullptr && hasPlainDelegate(*combo)) // it would ignore the sheet's rows
         combo->setItemDelegate(new QStyledItemDelegate(combo));
@@ -89,7 +108,7 @@ QIcon HostStyle::standardIcon(StandardPixmap which, const QStyleOption* option, 
     const char* image = imageFor(which);
     if (image == nullptr)
         return QProxyStyle::standardIcon(which, option, widget);
-    return QIcon(QStringLiteral(":/images/images/%1.png").arg(QLatin1String(image)));
+    return QIcon(XCOMMON::imagePath(QLatin1String(image)));
 }
 
 void HostStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

@@ -2,6 +2,7 @@
 
 #include "alerts/AlertHistoryDlg.h"
 #include "alerts/ToastStack.h"
+#include "devices/DevicesPage.h"
 #include "entry/PersonMgrInit.h"
 #include "settings/ClientSettings.h"
 #include "settings/SettingsDlg.h"
@@ -16,6 +17,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QListWidget>
+#include <QScreen>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -42,6 +44,7 @@ MainWindow::MainWindow(ClientSettings& settings) : m_settings(settings)
     module.moduleInit();
     m_personsPage = module.createPersonMgrForm();
     addPage(tr("Persons"), QStringLiteral("persons"), m_personsPage);
+    addPage(tr("Devices"), QStringLiteral("devices"), new DevicesPage);
 
     m_quitGuard = new QuitGuard(this);
     connect(m_quitGuard, &QuitGuard::signalMayQuit, this, &QWidget::close);
@@ -104,7 +107,7 @@ void MainWindow::setStoreName(const QString& name)
 
 void MainWindow::restore()
 {
-    resize(firstSize);
+    resize(firstSize.boundedTo(screen()->availableSize()));
     restoreGeometry(m_settings.windowGeometry());
     m_splitter->restoreState(m_settings.splitterState());
     m_pageList->setCurrentRow(qBound(0, m_settings.currentPage(), m_pages->count() - 1));

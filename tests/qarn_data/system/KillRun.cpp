@@ -127,6 +127,8 @@ QString KillRun::killOnce()
     if (!DataService::instance().open(m_storePath, &problem))
         return problem;
     problem = check(acknowledged);
+    if (problem.isEmpty())
+        DataService::instance().checkConsistency(&problem);
     const QString complaint = sqliteComplaint(m_storePath);
     DataService::instance().close();
     return problem.isEmpty() ? complaint : problem;

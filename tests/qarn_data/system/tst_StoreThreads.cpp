@@ -185,6 +185,8 @@ void tst_StoreThreads::checkFinalState(const QJsonObject& other)
 
 void tst_StoreThreads::checkReopened()
 {
+    QString problem;
+    QVERIFY2(qarn_data::DataService::instance().checkConsistency(&problem), qPrintable(problem));
     const PersonList before = PersonData::instance().getAllPersons(false);
     m_store->reopen();
     const PersonList after = PersonData::instance().getAllPersons(false);
