@@ -12,7 +12,7 @@ import tempfile
 import time
 
 SCREENSHOTS = pathlib.Path(os.environ.get("QARN_SCREENSHOTS", "screenshots"))
-PATIENCE = 30.0  # seconds until something that should happen must have happened
+PATIENCE = float(os.environ.get("QARN_PATIENCE", 30))  # seconds until something that should happen must have happened
 
 
 class Desktop:

@@ -1,7 +1,6 @@
 """The client is killed in the middle of an import and of a synchronisation, and starts again on a register
 that is whole."""
 
-import time
 import unittest
 
 from case import EndToEnd
@@ -12,6 +11,26 @@ UPDATES = 20000
 
 
 class Killed(EndToEnd):
+    """What both kinds of kill share."""
+
+    arguments = ()
+
+    def assert_whole(self):
+        self.assertEqual(self.query("PRAGMA integrity_check"), [("ok",)])
+        self.assertEqual(self.query("PRAGMA foreign_key_check"), [])
+        self.assertEqual(self.query("SELECT count(*) FROM persons WHERE number NOT IN (SELECT person FROM records)"),
+                         [(0,)])
+        return self.query("SELECT count(*) FROM records")[0][0]
+
+    def restart(self):
+        client = self.start(*self.arguments)
+        count = self.assert_whole()
+        client.until(lambda: client.widgets("totalCnt")
+                     and int(client.widget("totalCnt")["text"].split()[-1]) == count, f"{count} persons")
+        return client, count
+
+
+class KilledWhileImporting(Killed):
     def table(self, name, rows):
         path = self.home / name
         path.write_text(HEADER + "".join(rows), encoding="utf-8")
@@ -24,25 +43,13 @@ class Killed(EndToEnd):
         client.click("importBt")
         client.widget("caption")
 
-    def assert_whole(self):
-        self.assertEqual(self.query("PRAGMA integrity_check"), [("ok",)])
-        self.assertEqual(self.query("PRAGMA foreign_key_check"), [])
-        self.assertEqual(self.query("SELECT count(*) FROM persons WHERE number NOT IN (SELECT person FROM records)"),
-                         [(0,)])
-        return self.query("SELECT count(*) FROM records")[0][0]
-
-    def restart(self):
-        client = self.start()
-        count = self.assert_whole()
-        client.until(lambda: client.widgets("totalCnt")
-                     and int(client.widget("totalCnt")["text"].split()[-1]) == count, f"{count} persons")
-        return client, count
-
     def test_killed_while_importing(self):
         client = self.start()
         new = self.table("new.csv", (f"N{n},Person {n},Gate/{n % 40},1,,,,,\n" for n in range(NEW_ROWS)))
+        journal = self.store.with_name("persons.db-wal")
+        before = journal.stat().st_size if journal.exists() else 0
         self.start_import(client, new)
-        time.sleep(0.15)
+        client.until(lambda: journal.exists() and journal.stat().st_size > before, "the import writes")
         client.kill()
         client, count = self.restart()
         self.assertIn(count, (0, NEW_ROWS), "new persons come all at once or not at all")
@@ -65,20 +72,15 @@ class Killed(EndToEnd):
         client.quit()
 
 
-class KilledWithDevice(Killed):
+class KilledWhileSynchronising(Killed):
+    arguments = ("--demo",)
+
     @property
     def store(self):
         return self.home / "data" / "qarn-client" / "demo" / "persons.db"
 
-    def restart(self):
-        client = self.start("--demo")
-        return client, self.assert_whole()
-
-    def test_killed_while_importing(self):
-        self.skipTest("needs no device")
-
     def test_killed_while_synchronising(self):
-        client = self.start("--demo")
+        client = self.start(*self.arguments)
         client.click_item("treeWidget", "All Organizations")
         client.click("synchronizeToDevBt")
         entry = client.item("treeWt", "Simulated door")

@@ -39,8 +39,8 @@ class MainJob(EndToEnd):
         client.until(lambda: not client.widgets("caption"), "the overlay goes")
 
     def close_toasts(self, client):
-        while client.widgets("alertText"):
-            client.click_at(client.widgets("alertText")[0])
+        while toasts := client.widgets("alertText"):  # they also go by themselves
+            client.click_at(toasts[0])
 
     def import_samples(self, client):
         client.click("importPersonsBt")

@@ -1,0 +1,37 @@
+#include "table/Photographs.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QRandomGenerator>
+
+namespace qarn_bench
+{
+
+QByteArray photograph(quint32 seed, const QSize& size)
+{
+    QRandomGenerator random(seed);
+    QImage shapes(40, 30, QImage::Format_RGB32);
+    for (int y = 0; y < shapes.height(); ++y) {
+        for (int x = 0; x < shapes.width(); ++x)
+            shapes.setPixel(x, y, random.generate());
+    }
+    QImage photo = shapes.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                       .convertToFormat(QImage::Format_RGB32);
+    for (int y = 0; y < photo.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(photo.scanLine(y));
+        for (int x = 0; x < photo.width(); ++x)
+            line[x] ^= random.generate() & 0x00070707;
+    }
+    QBuffer buffer;
+    photo.save(&buffer, "jpg", 90);
+    return buffer.data();
+}
+
+QByteArray withComment(QByteArray jpeg, int number)
+{
+    const QByteArray text = QByteArray::number(number).rightJustified(10, '0');
+    const auto length = static_cast<char>(text.size() + 2);
+    return jpeg.insert(2, QByteArray("\xff\xfe\x00", 3) + length + text);
+}
+
+} // namespace qarn_bench
