@@ -5,10 +5,12 @@
 #include "StoreFile.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QSqlDatabase>
 #include <QSqlDriver>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QThread>
 #include <QVariant>
 
 #include <sqlite3.h>
@@ -20,6 +22,7 @@ namespace
 {
 
 constexpr int busyTimeoutMs = 5000;
+constexpr unsigned long busyPauseMs = 10;
 /// At this length of the journal (16 MiB) a writer waits for the disk; the Checkpointer comes before mostly.
 constexpr int journalPages = 4096;
 constexpr int cacheKiB = 16 * 1024; ///< an index of a large register fits in
@@ -59,6 +62,20 @@ bool isOurs(QSqlDatabase& database, QSqlError* error)
     return false;
 }
 
+bool isBusy(const QSqlError& error)
+{
+    constexpr int primaryCode = 0xFF; // the rest tells more of the circumstances
+    return (error.nativeErrorCode().toInt() & primaryCode) == SQLITE_BUSY;
+}
+
+bool prepareOnce(QSqlDatabase& database, QSqlError* error)
+{
+    // A damaged or foreign file shows itself before anything is set.
+    return isOurs(database, error) && execute(database, QStringLiteral("PRAGMA foreign_keys = ON"), error) &&
+           execute(database, QStringLiteral("PRAGMA synchronous = NORMAL"), error) &&
+           execute(database, QStringLiteral("PRAGMA journal_mode = WAL"), error);
+}
+
 } // namespace
 
 QString SqliteDialect::driverName() const
@@ -78,10 +95,15 @@ QString SqliteDialect::objection(const QString& location) const
 
 bool SqliteDialect::prepare(QSqlDatabase& database, QSqlError* error) const
 {
-    // A damaged or foreign file shows itself before anything is set.
-    return isOurs(database, error) && execute(database, QStringLiteral("PRAGMA foreign_keys = ON"), error) &&
-           execute(database, QStringLiteral("PRAGMA synchronous = NORMAL"), error) &&
-           execute(database, QStringLiteral("PRAGMA journal_mode = WAL"), error);
+    // Of two processes that change a new file's journal at one time SQLite turns one away at once, since
+    // neither would get any further by waiting with its lock. It may come again.
+    const QDeadlineTimer patience(busyTimeoutMs);
+    while (!prepareOnce(database, error)) {
+        if (!isBusy(*error) || patience.hasExpired())
+            return false;
+        QThread::msleep(busyPauseMs);
+    }
+    return true;
 }
 
 int SqliteDialect::newestSchema() const
