@@ -3,6 +3,7 @@ search, edit, export, send to the device, delete, fetch from the device. Looks a
 bytes and the device's own file, not only at the screen."""
 
 import json
+import shutil
 import unittest
 
 from case import SAMPLES, EndToEnd
@@ -12,6 +13,11 @@ SAMPLE_COUNT = 60
 
 
 class MainJob(EndToEnd):
+    def setUp(self):
+        super().setUp()
+        self.samples = self.home / "samples"  # as an operator would have them
+        shutil.copytree(SAMPLES, self.samples)
+
     @property
     def store(self):
         return self.home / "data" / "qarn-client" / "demo" / "persons.db"
@@ -45,7 +51,7 @@ class MainJob(EndToEnd):
     def import_samples(self, client):
         client.click("importPersonsBt")
         client.click("filePath")
-        client.choose_file(SAMPLES / "persons.csv")
+        client.choose_file(self.samples / "persons.csv")
         self.picture(client, "import-table")
         client.click("importBt")
         self.wait_total(client, EXPECTED_DEMO + SAMPLE_COUNT)
@@ -56,7 +62,7 @@ class MainJob(EndToEnd):
         client.click("importPersonsBt")
         client.click("personFaceChecked")
         client.click("filePath")
-        client.choose_file(SAMPLES / "portraits")
+        client.choose_file(self.samples / "portraits")
         self.picture(client, "import-faces")
         client.click("importBt")
         client.until(lambda: client.texts("caption") or client.texts("alertText"), "the import")
