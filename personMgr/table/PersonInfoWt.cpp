@@ -42,6 +42,10 @@ PersonInfoWt::PersonInfoWt(const PersonInfo& info, QWidget* parent)
       m_ui(std::make_unique<Ui::PersonInfoWt>())
 {
     m_ui->setupUi(this);
+    m_ui->editBt->setImages(QStringLiteral(":/images/images/edit_n.png"),
+                            QStringLiteral(":/images/images/edit_h.png"));
+    m_ui->deleteBt->setImages(QStringLiteral(":/images/images/delete_n.png"),
+                              QStringLiteral(":/images/images/delete_h.png"));
     setStyleState(NormalStyle);
     connect(m_ui->orderNum, &QCheckBox::clicked, this, &PersonInfoWt::signalCheckState);
     connect(m_ui->editBt, &QPushButton::clicked, this, &PersonInfoWt::editPerson);
