@@ -14,7 +14,6 @@ namespace
 {
 
 constexpr int usageError = 2;
-constexpr int noStore = 3;
 
 /// Without TZ every conversion to local time looks at the system's zone file again, which makes loading a
 /// large register several times slower.
@@ -63,7 +62,7 @@ int main(int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false); // until there is the main window
     Session session(line, settings);
     if (!session.start())
-        return noStore;
+        return Session::noStore;
     QApplication::setQuitOnLastWindowClosed(true);
     return session.run();
 }

@@ -66,4 +66,9 @@ void tellFailure(const QString& text)
         emit DataService::instance().signalFailed(text);
 }
 
+void tellLoadingFailure(const QString& text)
+{
+    emit DataService::instance().signalLoadingFailed(text);
+}
+
 } // namespace qarn_data

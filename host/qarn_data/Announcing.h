@@ -24,4 +24,7 @@ void announceInGuiThread(const Announcements& announcements);
 /// Tells the operator; does nothing when `text` is empty.
 void tellFailure(const QString& text);
 
+/// Tells the client that a store which it works with already could not be read to its end.
+void tellLoadingFailure(const QString& text);
+
 } // namespace qarn_data

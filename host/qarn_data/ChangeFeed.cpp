@@ -65,7 +65,7 @@ bool ChangeFeed::takeRecords(const QString& subject, PersonList* records)
     QVector<StoredRecord> read;
     const QVector<NumberRange> ranges = fromRanges(subject);
     for (const NumberRange& range : ranges) {
-        if (!table.readRecords(range, [&read](const StoredRecord& record) { read.append(record); }))
+        if (!table.readRecords(range, [&read](StoredRecord&& record) { read.append(std::move(record)); }))
             return false;
     }
     const QWriteLocker locker(&m_lock);
@@ -80,8 +80,8 @@ bool ChangeFeed::takeUpdate(qint64 record)
 {
     const qint64 person = m_state.persons.personOf(record);
     QVector<StoredRecord> read;
-    if (!PersonTable(m_store, m_state.organizations).readPerson(person, [&read](const StoredRecord& stored) {
-            read.append(stored);
+    if (!PersonTable(m_store, m_state.organizations).readPerson(person, [&read](StoredRecord&& stored) {
+            read.append(std::move(stored));
         }))
         return false;
     QStringList ids;

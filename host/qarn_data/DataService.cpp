@@ -57,15 +57,26 @@ DataService& DataService::instance()
 
 bool DataService::open(const QString& location, QString* error)
 {
-    auto* timer = findChild<QTimer*>();
     const bool ok = Register::instance().open(location, error);
-    QMetaObject::invokeMethod(timer, ok ? "start" : "stop");
+    watchForeignChanges(ok);
     return ok;
+}
+
+bool DataService::openAhead(const QString& location, QString* error)
+{
+    const bool ok = Register::instance().openAhead(location, error);
+    watchForeignChanges(ok);
+    return ok;
+}
+
+void DataService::watchForeignChanges(bool on)
+{
+    QMetaObject::invokeMethod(findChild<QTimer*>(), on ? "start" : "stop");
 }
 
 void DataService::close()
 {
-    QMetaObject::invokeMethod(findChild<QTimer*>(), "stop");
+    watchForeignChanges(false);
     Register::instance().close();
 }
 

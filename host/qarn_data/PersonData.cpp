@@ -40,6 +40,12 @@ auto read(Read read)
     return Register::instance().read(read);
 }
 
+template <class Read>
+auto readPersons(Read read)
+{
+    return Register::instance().readPersons(read);
+}
+
 } // namespace
 
 PersonData& PersonData::instance()
@@ -50,42 +56,47 @@ PersonData& PersonData::instance()
 
 QList<PersonInfo> PersonData::getAllPersons(bool withoutImages) const
 {
-    const PersonList all = read([](const RegisterState& state) { return state.persons.all(); });
+    const PersonList all = readPersons([](const PersonIndex& persons) { return persons.all(); });
     return withoutImages ? qarn_data::withoutImages(all) : all;
+}
+
+bool PersonData::getFirstPersons(int count, QList<PersonInfo>* persons, int* total) const
+{
+    return Register::instance().readFirstPersons(count, persons, total);
 }
 
 QList<PersonInfo> PersonData::getPersons(const QStringList& organizationIds, bool withoutImages) const
 {
-    const PersonList persons =
-        read([&](const RegisterState& state) { return state.persons.inOrganizations(organizationIds); });
-    return withoutImages ? qarn_data::withoutImages(persons) : persons;
+    const PersonList found =
+        readPersons([&](const PersonIndex& persons) { return persons.inOrganizations(organizationIds); });
+    return withoutImages ? qarn_data::withoutImages(found) : found;
 }
 
 PersonInfo PersonData::getPersonBySerialNum(const QString& serialNum, bool withoutImages) const
 {
-    return read([&](const RegisterState& state) {
-        return found(state.persons.bySerialNum(serialNum), withoutImages);
-    });
+    return readPersons(
+        [&](const PersonIndex& persons) { return found(persons.bySerialNum(serialNum), withoutImages); });
 }
 
 PersonInfo PersonData::getPersonByName(const QString& name, bool withoutImages) const
 {
-    return read([&](const RegisterState& state) { return found(state.persons.byName(name), withoutImages); });
+    return readPersons(
+        [&](const PersonIndex& persons) { return found(persons.byName(name), withoutImages); });
 }
 
 QSet<QString> PersonData::getAllPersonsSerialNum() const
 {
-    return read([](const RegisterState& state) { return state.persons.serialNums(); });
+    return readPersons([](const PersonIndex& persons) { return persons.serialNums(); });
 }
 
 QSet<QString> PersonData::getAllPersonsName() const
 {
-    return read([](const RegisterState& state) { return state.persons.names(); });
+    return readPersons([](const PersonIndex& persons) { return persons.names(); });
 }
 
 bool PersonData::isPersonSerialNumExist(const QString& serialNum) const
 {
-    return read([&](const RegisterState& state) { return state.persons.bySerialNum(serialNum) != nullptr; });
+    return readPersons([&](const PersonIndex& persons) { return persons.bySerialNum(serialNum) != nullptr; });
 }
 
 bool PersonData::addPerson(const PersonInfo& person)
@@ -156,7 +167,7 @@ bool PersonData::isRootOrganization(const QString& organizationId) const
 
 bool PersonData::isOrganizationsHasPersons(const QStringList& ids) const
 {
-    return read([&](const RegisterState& state) { return state.persons.anyIn(ids); });
+    return readPersons([&](const PersonIndex& persons) { return persons.anyIn(ids); });
 }
 
 QList<OrganizationInfo> PersonData::getAllOrganizations() const

@@ -9,10 +9,28 @@ void PersonIndex::reserve(int records)
 {
     m_infos.reserve(records);
     m_slots.reserve(records);
-    m_records.reserve(records);
-    m_byId.reserve(records);
-    m_bySerial.reserve(records);
-    m_byName.reserve(records);
+    if (PersonKeys* keys = m_keys.ifMade())
+        keys->reserve(records);
+    if (RecordsByPerson* byPerson = m_recordsByPerson.ifMade())
+        byPerson->reserve(records);
+}
+
+const PersonKeys& PersonIndex::keys() const
+{
+    return m_keys.get([this](PersonKeys& keys) {
+        keys.reserve(m_slots.size());
+        for (int i = 0; i < m_slots.size(); ++i)
+            keys.enter(m_infos.at(i), m_slots.at(i).record, m_slots.at(i).person);
+    });
+}
+
+const PersonIndex::RecordsByPerson& PersonIndex::recordsByPerson() const
+{
+    return m_recordsByPerson.get([this](RecordsByPerson& byPerson) {
+        byPerson.reserve(m_slots.size());
+        for (const Slot& entry : m_slots)
+            byPerson.insert(entry.person, entry.record);
+    });
 }
 
 int PersonIndex::position(qint64 record) const
@@ -34,87 +52,62 @@ int PersonIndex::organizationPlace(const QString& organizationId)
     return m_organizations.size() - 1;
 }
 
-void PersonIndex::put(const StoredRecord& record)
+void PersonIndex::put(StoredRecord record)
 {
-    const int known = record.number <= lastRecord() ? position(record.number) : -1;
+    const bool isNew = record.number > lastRecord();
+    const int known = isNew ? -1 : position(record.number);
     if (known >= 0) {
-        replace(known, record);
+        replace(known, std::move(record));
         return;
     }
     const Slot entry{record.number, record.person, organizationPlace(record.info.organizationId)};
-    const auto after =
-        std::upper_bound(m_slots.begin(), m_slots.end(), record.number,
-                         [](qint64 number, const Slot& other) { return number < other.record; });
-    const int place = int(after - m_slots.begin());
-    m_slots.insert(place, entry);
-    m_infos.insert(place, record.info);
-    m_infos[place].organizationId = m_organizations.at(entry.organization);
-    enter(entry, record.info);
+    auto place = m_slots.end();
+    if (!isNew)
+        place = std::upper_bound(m_slots.begin(), m_slots.end(), record.number,
+                                 [](qint64 number, const Slot& other) { return number < other.record; });
+    insert(int(place - m_slots.begin()), entry, std::move(record.info));
 }
 
-void PersonIndex::replace(int position, const StoredRecord& record)
+void PersonIndex::insert(int position, const Slot& entry, PersonInfo info)
+{
+    info.organizationId = m_organizations.at(entry.organization);
+    m_slots.insert(position, entry);
+    // A blank first: the list would copy all members of what it is given.
+    m_infos.insert(position, PersonInfo(PersonInfo::Blank::Record));
+    m_infos[position] = std::move(info);
+    enter(entry, m_infos.at(position));
+}
+
+void PersonIndex::replace(int position, StoredRecord record)
 {
     const Slot old = m_slots.at(position);
-    const PersonInfo oldInfo = m_infos.at(position);
-    leave(old, oldInfo);
+    leave(old, m_infos.at(position));
     // What one record of a person says now, the others will say in a moment.
-    if (m_bySerial.value(oldInfo.serialNum) == old.person)
-        m_bySerial.remove(oldInfo.serialNum);
-    m_records.remove(old.person, old.record);
+    if (PersonKeys* keys = m_keys.ifMade())
+        keys->leaveSerialNum(m_infos.at(position).serialNum, old.person);
+    if (RecordsByPerson* byPerson = m_recordsByPerson.ifMade())
+        byPerson->remove(old.person, old.record);
     m_slots[position] = {record.number, record.person, organizationPlace(record.info.organizationId)};
-    m_infos[position] = record.info;
-    enter(m_slots.at(position), record.info);
+    m_infos[position] = std::move(record.info);
+    enter(m_slots.at(position), m_infos.at(position));
 }
 
 void PersonIndex::enter(const Slot& entry, const PersonInfo& info)
 {
-    m_records.insert(entry.person, entry.record);
     m_lastPerson = std::max(m_lastPerson, entry.person);
-    m_byId.insert(info.id, entry.record);
-    if (!info.serialNum.isEmpty())
-        m_bySerial.insert(info.serialNum, entry.person);
-    enterName(info.name, entry.record);
     ++m_organizationCounts[entry.organization];
+    if (PersonKeys* keys = m_keys.ifMade())
+        keys->enter(info, entry.record, entry.person);
+    if (RecordsByPerson* byPerson = m_recordsByPerson.ifMade())
+        byPerson->insert(entry.person, entry.record);
 }
 
-void PersonIndex::enterName(const QString& name, qint64 record)
-{
-    const auto known = m_byName.find(name);
-    if (known == m_byName.end()) {
-        m_byName.insert(name, {record, {}});
-        return;
-    }
-    QList<qint64>& others = known->others;
-    const qint64 later = std::max(known->first, record);
-    known->first = std::min(known->first, record);
-    others.insert(std::upper_bound(others.begin(), others.end(), later), later);
-}
-
-// Takes a record out of the ways to find it. Whoever calls this sees to members and serial number.
+// Takes a record out of the ways to find it. Whoever calls this sees to person and serial number.
 void PersonIndex::leave(const Slot& entry, const PersonInfo& info)
 {
-    m_byId.remove(info.id);
     --m_organizationCounts[entry.organization];
-    leaveName(info.name, entry.record);
-}
-
-void PersonIndex::leaveName(const QString& name, qint64 record)
-{
-    const auto namesakes = m_byName.find(name);
-    QList<qint64>& others = namesakes->others;
-    if (namesakes->first != record)
-        others.erase(std::lower_bound(others.begin(), others.end(), record));
-    else if (others.isEmpty())
-        m_byName.erase(namesakes);
-    else
-        namesakes->first = others.takeFirst();
-}
-
-void PersonIndex::leaveSerialNum(qint64 person, const QString& serialNum)
-{
-    const auto known = m_bySerial.find(serialNum);
-    if (known != m_bySerial.end() && *known == person && !m_records.contains(person))
-        m_bySerial.erase(known);
+    if (PersonKeys* keys = m_keys.ifMade())
+        keys->leave(info, entry.record);
 }
 
 QStringList PersonIndex::remove(const QVector<qint64>& numbers)
@@ -134,18 +127,24 @@ QStringList PersonIndex::remove(const QVector<qint64>& numbers)
     }
     if (!ids.isEmpty())
         dropMarked(gone);
-    for (const auto& serial : qAsConst(serials))
-        leaveSerialNum(serial.first, serial.second);
+    if (PersonKeys* keys = m_keys.ifMade()) {
+        for (const auto& serial : qAsConst(serials)) {
+            if (!recordsByPerson().contains(serial.first))
+                keys->leaveSerialNum(serial.second, serial.first);
+        }
+    }
     return ids;
 }
 
 // One pass over the lists, however many go.
 void PersonIndex::dropMarked(const QVector<bool>& gone)
 {
+    RecordsByPerson* byPerson = m_recordsByPerson.ifMade();
     int kept = 0;
     for (int i = 0; i < gone.size(); ++i) {
         if (gone.at(i)) {
-            m_records.remove(m_slots.at(i).person, m_slots.at(i).record);
+            if (byPerson != nullptr)
+                byPerson->remove(m_slots.at(i).person, m_slots.at(i).record);
             continue;
         }
         if (kept != i) {
@@ -160,21 +159,20 @@ void PersonIndex::dropMarked(const QVector<bool>& gone)
 
 void PersonIndex::updatePerson(qint64 person, const PersonInfo& info)
 {
+    PersonKeys* keys = m_keys.ifMade();
     const QVector<qint64> records = recordsOf(person);
     for (const qint64 number : records) {
         PersonInfo& known = m_infos[position(number)];
         const PersonInfo old = known;
-        if (old.name != info.name) {
-            leaveName(old.name, number);
-            enterName(info.name, number);
-        }
         known = info;
         known.id = old.id;
         known.organizationId = old.organizationId;
-        if (old.serialNum != info.serialNum && m_bySerial.value(old.serialNum) == person)
-            m_bySerial.remove(old.serialNum);
-        if (!info.serialNum.isEmpty())
-            m_bySerial.insert(info.serialNum, person);
+        if (keys == nullptr)
+            continue;
+        keys->rename(old.name, info.name, number);
+        if (old.serialNum != info.serialNum)
+            keys->leaveSerialNum(old.serialNum, person);
+        keys->enterSerialNum(info.serialNum, person);
     }
 }
 
@@ -242,24 +240,23 @@ const PersonInfo* PersonIndex::record(qint64 number) const
 
 const PersonInfo* PersonIndex::byId(const QString& id) const
 {
-    return record(m_byId.value(id));
+    return record(keys().record(id));
 }
 
 const PersonInfo* PersonIndex::bySerialNum(const QString& serialNum) const
 {
-    const qint64 person = m_bySerial.value(serialNum);
+    const qint64 person = personWithSerialNum(serialNum);
     return person == 0 ? nullptr : record(recordsOf(person).first());
 }
 
 const PersonInfo* PersonIndex::byName(const QString& name) const
 {
-    const auto found = m_byName.constFind(name);
-    return found == m_byName.constEnd() ? nullptr : record(found->first);
+    return record(keys().firstNamed(name));
 }
 
-qint64 PersonIndex::recordNumber(const QString& id) const
+qint64 PersonIndex::personWithSerialNum(const QString& serialNum) const
 {
-    return m_byId.value(id);
+    return keys().personWithSerialNum(serialNum);
 }
 
 qint64 PersonIndex::personOf(qint64 record) const
@@ -270,10 +267,7 @@ qint64 PersonIndex::personOf(qint64 record) const
 
 QVector<qint64> PersonIndex::recordsOf(qint64 person) const
 {
-    QVector<qint64> records;
-    for (auto entry = m_records.constFind(person); entry != m_records.cend() && entry.key() == person;
-         ++entry)
-        records.append(*entry);
+    QVector<qint64> records = recordsByPerson().values(person).toVector();
     std::sort(records.begin(), records.end());
     return records;
 }
@@ -286,16 +280,6 @@ QVector<qint64> PersonIndex::recordNumbersBetween(qint64 first, qint64 last) con
     for (; entry != m_slots.cend() && entry->record <= last; ++entry)
         numbers.append(entry->record);
     return numbers;
-}
-
-QSet<QString> PersonIndex::serialNums() const
-{
-    return QSet<QString>(m_bySerial.keyBegin(), m_bySerial.keyEnd());
-}
-
-QSet<QString> PersonIndex::names() const
-{
-    return QSet<QString>(m_byName.keyBegin(), m_byName.keyEnd());
 }
 
 } // namespace qarn_data

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <qarn_data/PersonInfo.h>
+#include "Lazily.h"
+#include "PersonKeys.h"
 
 #include <QHash>
-#include <QSet>
 #include <QStringList>
 #include <QVector>
 
@@ -17,14 +17,15 @@ struct StoredRecord {
     PersonInfo info{PersonInfo::Blank::Record};
 };
 
-/// All records in the order in which they were added, and the ways to find them. Handing out the whole
-/// list costs nothing; texts and images are shared, never copied. Not locked: Register sees to that.
+/// All records in the order in which they were added, and the ways to find them, which are made when first
+/// needed: a page can be shown before. Handing out the whole list costs nothing; texts and images are shared,
+/// never copied. Several threads may read at a time; Register sees to it that a change is alone.
 class PersonIndex
 {
 public:
     void reserve(int records);
     /// `record.number` is greater than every number before, or is a known one, which is replaced.
-    void put(const StoredRecord& record);
+    void put(StoredRecord record);
     /// Numbers that are not known are ignored. The removed records' ids.
     QStringList remove(const QVector<qint64>& numbers);
     /// Gives all records of a person the fields of `info`, except id and organization.
@@ -45,15 +46,15 @@ public:
     const PersonInfo* byId(const QString& id) const;
     const PersonInfo* bySerialNum(const QString& serialNum) const;
     const PersonInfo* byName(const QString& name) const;
-    qint64 recordNumber(const QString& id) const; ///< 0 when unknown
-    qint64 personOf(qint64 record) const;         ///< 0 when unknown
-    qint64 personWithSerialNum(const QString& serialNum) const { return m_bySerial.value(serialNum); }
+    qint64 recordNumber(const QString& id) const { return keys().record(id); } ///< 0 when unknown
+    qint64 personOf(qint64 record) const;                                      ///< 0 when unknown
+    qint64 personWithSerialNum(const QString& serialNum) const;                ///< 0 when unknown
     QVector<qint64> recordsOf(qint64 person) const;
     QVector<qint64> recordNumbers() const { return recordNumbersBetween(0, lastRecord()); }
     QVector<qint64> recordNumbersBetween(qint64 first, qint64 last) const;
 
-    QSet<QString> serialNums() const;
-    QSet<QString> names() const;
+    QSet<QString> serialNums() const { return keys().serialNums(); }
+    QSet<QString> names() const { return keys().names(); }
 
 private:
     struct Slot {
@@ -61,31 +62,27 @@ private:
         qint64 person;
         int organization; ///< place in m_organizations
     };
-    struct Namesakes {
-        qint64 first;         ///< record
-        QList<qint64> others; ///< records, sorted; empty for most names
-    };
+    using RecordsByPerson = QMultiHash<qint64, qint64>;
+
+    const PersonKeys& keys() const;
+    const RecordsByPerson& recordsByPerson() const;
 
     int position(qint64 record) const; ///< in m_slots and m_infos; -1 when unknown
     int organizationPlace(const QString& organizationId);
     QVector<bool> chosenPlaces(const QStringList& organizationIds, int* records) const;
-    void replace(int position, const StoredRecord& record);
+    void insert(int position, const Slot& entry, PersonInfo info);
+    void replace(int position, StoredRecord record);
     void enter(const Slot& entry, const PersonInfo& info);
-    void enterName(const QString& name, qint64 record);
     void leave(const Slot& entry, const PersonInfo& info);
-    void leaveName(const QString& name, qint64 record);
-    void leaveSerialNum(qint64 person, const QString& serialNum);
     void dropMarked(const QVector<bool>& gone);
 
     // Side by side, one element a record, sorted by its number.
     QList<PersonInfo> m_infos;
     QVector<Slot> m_slots;
 
-    QMultiHash<qint64, qint64> m_records; ///< by person
     qint64 m_lastPerson = 0;
-    QHash<QString, qint64> m_byId;
-    QHash<QString, qint64> m_bySerial; ///< person
-    QHash<QString, Namesakes> m_byName;
+    Lazily<PersonKeys> m_keys;
+    Lazily<RecordsByPerson> m_recordsByPerson;
     QHash<QString, int> m_organizationPlaces;
     QVector<QString> m_organizations;
     QVector<int> m_organizationCounts;

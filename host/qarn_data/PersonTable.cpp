@@ -89,6 +89,20 @@ PersonTable::PersonTable(SqlStore& store, const OrganizationIndex& organizations
 {
 }
 
+bool PersonTable::count(int* records)
+{
+    return m_store.forEachRow("SELECT count(*) FROM records", {},
+                              [records](const Row& row) { *records = int(row.number(0)); });
+}
+
+bool PersonTable::firstRecords(int count, NumberRange* numbers)
+{
+    return m_store.forEachRow("SELECT max(number) FROM (SELECT number FROM records ORDER BY number LIMIT ?)",
+                              {Value(count)}, [numbers](const Row& row) {
+                                  *numbers = {0, row.number(0)};
+                              });
+}
+
 bool PersonTable::readAll(const RecordHandler& handler)
 {
     static const Selection all{recordsWhere(""), valuesWhere(""), facesWhere("")};
@@ -153,7 +167,7 @@ bool PersonTable::read(const Selection& selection, const Values& values, const R
             info.faceImage2 = m_faces.image((*images)[1]);
             info.faceImage3 = m_faces.image((*images)[2]);
         }
-        handler(record);
+        handler(std::move(record));
     };
     return m_store.forEachRow(selection.values.constData(), values, takeField) &&
            m_store.forEachRow(selection.faces.constData(), values, takeFace) &&

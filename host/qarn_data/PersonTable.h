@@ -15,7 +15,7 @@ namespace qarn_data
 class OrganizationIndex;
 class SqlStore;
 
-using RecordHandler = std::function<void(const StoredRecord&)>;
+using RecordHandler = std::function<void(StoredRecord&&)>;
 
 /// Persons and their records in the database. A record that is read carries all custom values, also those
 /// of removed names.
@@ -23,6 +23,10 @@ class PersonTable
 {
 public:
     PersonTable(SqlStore& store, const OrganizationIndex& organizations);
+
+    bool count(int* records);
+    /// The numbers of the first `count` records, or of all when there are fewer.
+    bool firstRecords(int count, NumberRange* numbers);
 
     // All in the order of addition.
     bool readAll(const RecordHandler& handler);

@@ -5,6 +5,7 @@
 #include "ChangeFeed.h"
 #include "Checkpointer.h"
 #include "Consistency.h"
+#include "PersonTable.h"
 #include "SqlStore.h"
 #include "SqliteDialect.h"
 
@@ -22,6 +23,7 @@ namespace
 Q_LOGGING_CATEGORY(logData, "qarn.data")
 
 const QString memoryLocation = QStringLiteral(":memory:");
+constexpr int largestPage = 200; // persons
 
 QString tr(const char* text)
 {
@@ -42,7 +44,12 @@ void set(QString* target, const QString& text)
 } // namespace
 
 Register::Register() = default;
-Register::~Register() = default;
+
+Register::~Register()
+{
+    if (m_loader.joinable())
+        m_loader.join();
+}
 
 Register& Register::instance()
 {
@@ -59,39 +66,109 @@ bool Register::isOpen() const
 bool Register::open(const QString& location, QString* error)
 {
     close();
+    return load(location, {}, error);
+}
+
+bool Register::openAhead(const QString& location, QString* error)
+{
+    close();
+    std::promise<QString> promise;
+    std::future<QString> refusal = promise.get_future();
+    m_loader = std::thread(&Register::loadInBackground, this, location, std::move(promise));
+    const QString reason = refusal.get();
+    set(error, reason);
+    return reason.isEmpty();
+}
+
+void Register::loadInBackground(const QString& location, std::promise<QString> refusal)
+{
+    bool isAhead = false;
+    QString error;
+    const auto ahead = [&] {
+        isAhead = true;
+        refusal.set_value(QString());
+    };
+    const bool ok = load(location, ahead, &error);
+    if (!isAhead)
+        refusal.set_value(error);
+    else if (!ok)
+        tellLoadingFailure(error);
+}
+
+bool Register::load(const QString& location, const std::function<void()>& ahead, QString* error)
+{
     const QMutexLocker writing(&m_writing);
     m_store = makeStore();
     QString reason;
-    if (!m_store->open(location, &reason) || !load(&reason)) {
+    bool ok = m_store->open(location, &reason);
+    if (ok) {
+        ok = m_store->beginRead();
+        if (ok && ahead && loadFirst(location))
+            ahead();
+        ok = ok && loadAll(location);
+        if (!ok)
+            reason = m_store->cause();
+        m_store->rollback();
+    }
+    if (!ok) {
         m_store.reset();
+        RegisterState none;
+        enter(none, QString(), 0);
         set(error, tr("The store %1 cannot be opened. %2").arg(QDir::toNativeSeparators(location), reason));
         return false;
     }
+    m_isBehind = false;
     m_store->handOver();
     if (location != memoryLocation)
         m_checkpointer = std::make_unique<Checkpointer>(location);
-    const QWriteLocker locker(&m_lock);
-    m_location = location;
     return true;
 }
 
-bool Register::load(QString* reason)
+// A failure says nothing yet: reading everything will meet it again.
+bool Register::loadFirst(const QString& location)
 {
     RegisterState state;
-    const bool ok = m_store->beginRead() && state.load(*m_store);
-    if (!ok)
-        *reason = m_store->cause();
-    m_store->rollback();
-    if (!ok)
+    int persons = 0;
+    if (!state.loadAllButPersons(*m_store) || !state.loadFirstPersons(*m_store, largestPage) ||
+        !PersonTable(*m_store, state.organizations).count(&persons))
         return false;
+    enter(state, location, persons - state.persons.count());
+    return true;
+}
+
+bool Register::loadAll(const QString& location)
+{
+    RegisterState state;
+    if (!state.load(*m_store))
+        return false;
+    enter(state, location, 0);
+    return true;
+}
+
+void Register::enter(RegisterState& state, const QString& location, int missingPersons)
+{
     const QWriteLocker locker(&m_lock);
     std::swap(m_state, state);
-    m_isBehind = false;
+    m_location = location;
+    m_missingPersons = missingPersons;
+    if (missingPersons == 0)
+        m_loaded.wakeAll();
+}
+
+bool Register::readFirstPersons(int count, PersonList* persons, int* total) const
+{
+    const QReadLocker locker(&m_lock);
+    if (m_missingPersons == 0 || count > m_state.persons.count())
+        return false;
+    *persons = m_state.persons.all().mid(0, count);
+    *total = m_state.persons.count() + m_missingPersons;
     return true;
 }
 
 void Register::close()
 {
+    if (m_loader.joinable())
+        m_loader.join();
     const QMutexLocker writing(&m_writing);
     if (m_store == nullptr)
         return;
@@ -99,9 +176,7 @@ void Register::close()
     m_store->takeOver();
     m_store.reset();
     RegisterState closed;
-    const QWriteLocker locker(&m_lock);
-    m_location.clear();
-    std::swap(m_state, closed);
+    enter(closed, QString(), 0);
 }
 
 bool Register::catchUp(Announcements& announcements)

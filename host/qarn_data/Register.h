@@ -5,9 +5,12 @@
 #include <QMutex>
 #include <QReadWriteLock>
 #include <QVector>
+#include <QWaitCondition>
 
 #include <functional>
+#include <future>
 #include <memory>
+#include <thread>
 
 namespace qarn_data
 {
@@ -29,17 +32,33 @@ public:
     ~Register();
 
     bool open(const QString& location, QString* error);
+    /// Comes back when the first persons are there; the others are read by a thread of its own. Should that
+    /// fail, the store is closed again and the service says so.
+    bool openAhead(const QString& location, QString* error);
     void close();
     bool isOpen() const;
     bool backup(const QString& filePath, QString* error);
     bool checkConsistency(QString* problem);
 
+    /// Everything but the persons, which may still be missing.
     template <class Read>
     auto read(Read read) const
     {
         const QReadLocker locker(&m_lock);
         return read(m_state);
     }
+    /// Waits until all persons are there.
+    template <class Read>
+    auto readPersons(Read read) const
+    {
+        const QReadLocker locker(&m_lock);
+        while (m_missingPersons > 0)
+            m_loaded.wait(&m_lock);
+        return read(m_state.persons);
+    }
+    /// While persons are being read: the first ones, and how many there will be. False at any other time, and
+    /// when fewer than `count` are there though more are to come.
+    bool readFirstPersons(int count, PersonList* persons, int* total) const;
 
     /// What other processes changed since the last look, already entered. Comes back at once while a write
     /// is under way, which takes these changes in itself.
@@ -49,12 +68,22 @@ private:
     friend class WriteSession;
 
     Register();
-    bool load(QString* reason);
+    /// Opens and reads in the calling thread. `ahead`, which may be empty, is called when the first persons
+    /// can be shown; what fails after that still gives false.
+    bool load(const QString& location, const std::function<void()>& ahead, QString* error);
+    void loadInBackground(const QString& location, std::promise<QString> refusal);
+    bool loadFirst(const QString& location);
+    bool loadAll(const QString& location);
+    void enter(RegisterState& state, const QString& location, int missingPersons);
     bool catchUp(Announcements& announcements); ///< inside a transaction
 
-    mutable QReadWriteLock m_lock; ///< of m_state and m_location, taken after m_writing
+    mutable QReadWriteLock m_lock; ///< of what follows, taken after m_writing
     RegisterState m_state;
     QString m_location;
+    int m_missingPersons = 0;        ///< that are being read; m_state has the first ones only
+    mutable QWaitCondition m_loaded; ///< none is missing any more
+
+    std::thread m_loader; ///< of the thread that opens and closes
 
     QMutex m_writing; ///< of everything below
     std::unique_ptr<SqlStore> m_store;

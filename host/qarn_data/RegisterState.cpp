@@ -45,17 +45,28 @@ bool sameOrganization(const OrganizationInfo& a, const OrganizationInfo& b)
     return a.id == b.id && a.parentId == b.parentId && a.name == b.name;
 }
 
-bool RegisterState::load(SqlStore& store)
+bool RegisterState::loadAllButPersons(SqlStore& store)
 {
-    int records = 0;
-    PersonTable table(store, organizations);
     return ChangeLog(store).lastNumber(&lastChange) && loadFields(store) && loadDevices(store) &&
            OrganizationTable(store).readAll(
-               [this](const StoredOrganization& organization) { organizations.put(organization); }) &&
-           store.forEachRow("SELECT count(*) FROM records", {},
-                            [&records](const Row& row) { records = int(row.number(0)); }) &&
-           (persons.reserve(records), true) &&
-           table.readAll([this](const StoredRecord& record) { putRecord(record); });
+               [this](const StoredOrganization& organization) { organizations.put(organization); });
+}
+
+bool RegisterState::loadPersons(SqlStore& store)
+{
+    PersonTable table(store, organizations);
+    int records = 0;
+    const bool ok = table.count(&records);
+    persons.reserve(records);
+    return ok && table.readAll([this](StoredRecord&& record) { putRecord(std::move(record)); });
+}
+
+bool RegisterState::loadFirstPersons(SqlStore& store, int count)
+{
+    PersonTable table(store, organizations);
+    NumberRange first;
+    return table.firstRecords(count, &first) &&
+           table.readRecords(first, [this](StoredRecord&& record) { putRecord(std::move(record)); });
 }
 
 bool RegisterState::loadFields(SqlStore& store)
@@ -92,7 +103,7 @@ void RegisterState::putRecord(StoredRecord record)
                 record.info = shared;
         }
     }
-    persons.put(record);
+    persons.put(std::move(record));
 }
 
 QStringList RegisterState::removeRecords(const QVector<qint64>& numbers)

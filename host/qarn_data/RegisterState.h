@@ -18,7 +18,10 @@ struct RegisterState {
     QList<StoredDevice> devices;
     qint64 lastChange = 0; ///< number in the change log up to which this is current
 
-    bool load(SqlStore& store);
+    bool load(SqlStore& store) { return loadAllButPersons(store) && loadPersons(store); }
+    bool loadAllButPersons(SqlStore& store);
+    bool loadPersons(SqlStore& store);
+    bool loadFirstPersons(SqlStore& store, int count);
     bool loadFields(SqlStore& store);
     bool loadDevices(SqlStore& store);
 

@@ -73,28 +73,56 @@ PersonMgrWorker& PersonMgrWorker::instance()
     return worker;
 }
 
+const QList<PersonInfo>& PersonMgrWorker::persons() const
+{
+    if (m_isPending) {
+        m_isPending = false;
+        m_persons = fetch({});
+    }
+    return m_persons;
+}
+
 void PersonMgrWorker::queryPersons(const PersonQueryCondition& condition)
 {
+    m_persons.clear();
+    m_isPending = false;
+    if (showWhileReading(condition))
+        return;
     m_persons = filtered(fetch(condition.organizationIds), condition);
     gotoPage(condition.curPage, condition.pageSize);
 }
 
+bool PersonMgrWorker::showWhileReading(const PersonQueryCondition& condition)
+{
+    QList<PersonInfo> first;
+    int total = 0;
+    if (!condition.organizationIds.isEmpty() || isSelective(condition) ||
+        !PersonData::instance().getFirstPersons(condition.pageSize, &first, &total))
+        return false;
+    const PageSpan span = choosePage(total, condition.curPage, condition.pageSize);
+    if (span.first != 0)
+        return false;
+    m_isPending = true;
+    emit signalCurPagePersons(first, span.number, total);
+    return true;
+}
+
 void PersonMgrWorker::showFirstPage(int pageSize)
 {
-    emit signalCurPagePersons(m_persons.mid(0, std::max(pageSize, 0)), 1, m_persons.count());
+    emit signalCurPagePersons(persons().mid(0, std::max(pageSize, 0)), 1, persons().count());
 }
 
 void PersonMgrWorker::gotoPage(int page, int pageSize)
 {
-    const PageSpan span = choosePage(m_persons.count(), page, pageSize);
-    emit signalCurPagePersons(m_persons.mid(span.first, span.count), span.number, m_persons.count());
+    const PageSpan span = choosePage(persons().count(), page, pageSize);
+    emit signalCurPagePersons(persons().mid(span.first, span.count), span.number, persons().count());
 }
 
 void PersonMgrWorker::removeCachedPersons(const QStringList& ids)
 {
     const QSet<QString> removed = toSet(ids);
     const auto isRemoved = [&removed](const PersonInfo& person) { return removed.contains(person.id); };
-    if (std::none_of(m_persons.cbegin(), m_persons.cend(), isRemoved))
+    if (std::none_of(persons().cbegin(), persons().cend(), isRemoved))
         return;
     m_persons.erase(std::remove_if(m_persons.begin(), m_persons.end(), isRemoved), m_persons.end());
 }
@@ -102,7 +130,7 @@ void PersonMgrWorker::removeCachedPersons(const QStringList& ids)
 void PersonMgrWorker::updateCachedPersons(const PersonInfo& info, const QStringList& ids)
 {
     QSet<QString> pending = toSet(ids);
-    for (int i = 0; i < m_persons.count() && !pending.isEmpty(); ++i) {
+    for (int i = 0; i < persons().count() && !pending.isEmpty(); ++i) {
         if (!pending.remove(m_persons.at(i).id))
             continue;
         PersonInfo updated = info;
@@ -115,8 +143,8 @@ void PersonMgrWorker::updateCachedPersons(const PersonInfo& info, const QStringL
 QStringList PersonMgrWorker::cachedPersonIds() const
 {
     QStringList ids;
-    ids.reserve(m_persons.count());
-    for (const PersonInfo& person : m_persons)
+    ids.reserve(persons().count());
+    for (const PersonInfo& person : persons())
         ids.append(person.id);
     return ids;
 }

@@ -39,7 +39,13 @@ signals:
 private:
     explicit PersonMgrWorker(QObject* parent);
 
-    QList<qarn_data::PersonInfo> m_persons;
+    /// The result of the last query. Fetches it now if only its first page was shown so far.
+    const QList<qarn_data::PersonInfo>& persons() const;
+    /// Right after the start, the first page of all persons without waiting for the others.
+    bool showWhileReading(const PersonQueryCondition& condition);
+
+    mutable QList<qarn_data::PersonInfo> m_persons;
+    mutable bool m_isPending = false; ///< m_persons is still to be fetched
 };
 
 } // namespace qarn_personMgr

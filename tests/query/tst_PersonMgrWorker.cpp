@@ -9,6 +9,7 @@
 #include <QtTest>
 
 using namespace qarn_personMgr;
+using qarn_data::DataService;
 using qarn_data::OrganizationInfo;
 using qarn_data::PersonData;
 using qarn_data::PersonInfo;
@@ -59,6 +60,8 @@ private slots:
     void removesKeptPersons();
     void updatesKeptPersons();
     void leavesTheListsOfOthersAlone();
+    void showsTheFirstPageWhileTheStoreIsRead();
+    void correctsWhatWasShownWhileTheStoreWasRead();
 
 private:
     void addPersons(int count);
@@ -314,6 +317,48 @@ void tst_PersonMgrWorker::leavesTheListsOfOthersAlone()
     const QList<PersonInfo> stored = PersonData::instance().getAllPersons(false);
     QCOMPARE(idsOf(stored), QStringList({"1", "2", "3"}));
     QCOMPARE(stored.first().name, QStringLiteral("Person 1"));
+}
+
+/// The answer is the same whether the store is still being read or not.
+void tst_PersonMgrWorker::showsTheFirstPageWhileTheStoreIsRead()
+{
+    constexpr int count = 20000;
+    constexpr int attempts = 50; // to meet the moment
+    addPersons(count);
+    bool met = false;
+    for (int attempt = 0; attempt < attempts && !met; ++attempt) {
+        DataService::instance().close();
+        QVERIFY(DataService::instance().openAhead(m_store->filePath()));
+        query(PersonQueryCondition());
+        QList<PersonInfo> first;
+        int all = 0;
+        met = PersonData::instance().getFirstPersons(1, &first, &all);
+        QCOMPARE(idsOf(shown()).first(), QStringLiteral("1"));
+        QCOMPARE(idsOf(shown()).count(), 50);
+        QCOMPARE(page(), 1);
+        QCOMPARE(total(), count);
+        m_answer.clear();
+        PersonMgrWorker::instance().gotoPage(-1, 50);
+        QCOMPARE(idsOf(shown()).last(), QString::number(count));
+        QCOMPARE(PersonMgrWorker::instance().cachedPersonIds().count(), count);
+    }
+    QVERIFY(met);
+}
+
+void tst_PersonMgrWorker::correctsWhatWasShownWhileTheStoreWasRead()
+{
+    addPersons(5000);
+    DataService::instance().close();
+    QVERIFY(DataService::instance().openAhead(m_store->filePath()));
+    query(PersonQueryCondition());
+    PersonMgrWorker::instance().removeCachedPersons({QStringLiteral("2")});
+    PersonInfo changed = person(QString(), QStringLiteral("Changed"), QString());
+    PersonMgrWorker::instance().updateCachedPersons(changed, {QStringLiteral("3")});
+    m_answer.clear();
+    PersonMgrWorker::instance().showFirstPage(2);
+    QCOMPARE(idsOf(shown()), QStringList({"1", "3"}));
+    QCOMPARE(total(), 4999);
+    QCOMPARE(shown().last().name, changed.name);
 }
 
 QTEST_GUILESS_MAIN(tst_PersonMgrWorker)

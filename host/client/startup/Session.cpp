@@ -3,6 +3,7 @@
 #include "demo/DemoDevice.h"
 #include "demo/DemoStore.h"
 #include "settings/ClientSettings.h"
+#include "startup/FirstPaint.h"
 #include "startup/SelfTest.h"
 #include "startup/StoreOpener.h"
 #include "window/MainWindow.h"
@@ -25,7 +26,8 @@ using qarn_worker::SystemAssistant;
 namespace
 {
 constexpr int screenshotDelayMs = 700; // for fonts, icons and the first answers of devices
-}
+constexpr int modalRetryMs = 200;
+} // namespace
 
 Session::Session(const CommandLine& line, ClientSettings& settings) : m_line(line), m_settings(settings) {}
 
@@ -36,18 +38,16 @@ Session::~Session()
     DataService::instance().close();
 }
 
-bool Session::openStore()
+bool Session::openStore(const QString& failure)
 {
-    QString path = m_line.demo ? demoStore::path() : m_line.storePath;
-    if (path.isEmpty())
-        path = m_settings.storePath();
-    if (path.isEmpty())
-        path = StoreOpener::defaultPath();
-    path = StoreOpener::open(path, !m_line.selfTest && m_line.screenshotPath.isEmpty());
-    if (path.isEmpty())
-        return false;
-    m_storeName = m_line.demo ? MainWindow::tr("Demonstration") : QFileInfo(path).fileName();
-    return true;
+    for (const QString& path : {m_line.demo ? demoStore::path() : m_line.storePath, m_settings.storePath(),
+                                StoreOpener::defaultPath()}) {
+        if (m_storePath.isEmpty())
+            m_storePath = path;
+    }
+    m_storePath =
+        StoreOpener::open(m_storePath, !m_line.selfTest && m_line.screenshotPath.isEmpty(), failure);
+    return !m_storePath.isEmpty();
 }
 
 void Session::openDemo()
@@ -63,21 +63,47 @@ bool Session::start()
                      [](const QString& text) {
                          SystemAssistant::instance().messageAlert(DictDef::instance().errorAlertTitle, text);
                      });
-    if (!openStore())
+    QObject::connect(&DataService::instance(), &DataService::signalLoadingFailed, &m_receiver,
+                     [this](const QString& reason) { startAgain(reason); });
+    return openWindow(QString());
+}
+
+bool Session::openWindow(const QString& failure)
+{
+    if (!openStore(failure))
         return false;
     if (m_line.demo)
         openDemo();
     m_window = std::make_unique<MainWindow>(m_settings);
-    m_window->setStoreName(m_storeName);
+    m_window->setStoreName(m_line.demo ? MainWindow::tr("Demonstration") : QFileInfo(m_storePath).fileName());
     return true;
+}
+
+// The store has turned out to be damaged while its first page was shown already.
+void Session::startAgain(const QString& failure)
+{
+    if (QApplication::activeModalWidget() != nullptr) { // belongs to the window that is to go
+        QTimer::singleShot(modalRetryMs, &m_receiver, [this, failure] { startAgain(failure); });
+        return;
+    }
+    QApplication::setQuitOnLastWindowClosed(false);
+    m_window.reset();
+    m_demoDevice.reset();
+    if (!openWindow(failure)) {
+        QCoreApplication::exit(noStore);
+        return;
+    }
+    QApplication::setQuitOnLastWindowClosed(true);
+    m_window->show();
 }
 
 int Session::run()
 {
-    m_window->show();
     if (m_line.selfTest)
-        QTimer::singleShot(0, m_window.get(), [this] { QCoreApplication::exit(selfTest()); });
-    else if (!m_line.screenshotPath.isEmpty())
+        QObject::connect(new FirstPaint(m_window.get()), &FirstPaint::signalPainted, m_window.get(),
+                         [this] { QCoreApplication::exit(selfTest()); });
+    m_window->show();
+    if (!m_line.screenshotPath.isEmpty())
         QTimer::singleShot(screenshotDelayMs, m_window.get(),
                            [this] { QCoreApplication::exit(screenshot()); });
     return QCoreApplication::exec();
@@ -85,6 +111,8 @@ int Session::run()
 
 int Session::selfTest()
 {
+    std::puts("first page shown");
+    std::fflush(stdout);
     const QString findings = selfTestFindings(*m_window);
     if (findings.isEmpty()) {
         std::puts("self-test passed");

@@ -2,6 +2,8 @@
 
 #include "startup/CommandLine.h"
 
+#include <QObject>
+
 #include <memory>
 
 class ClientSettings;
@@ -15,18 +17,23 @@ public:
     Session(const CommandLine& line, ClientSettings& settings);
     ~Session();
 
+    static constexpr int noStore = 3; ///< exit code
+
     bool start(); ///< false: there is no store to work on
     int run();    ///< until the operator quits; the exit code
 
 private:
-    bool openStore();
+    bool openStore(const QString& failure);
+    bool openWindow(const QString& failure);
+    void startAgain(const QString& failure);
     void openDemo();
     int selfTest();
     int screenshot();
 
     const CommandLine& m_line;
     ClientSettings& m_settings;
-    QString m_storeName;
+    QObject m_receiver; ///< of what other threads tell
+    QString m_storePath;
     std::unique_ptr<DemoDevice> m_demoDevice;
     std::unique_ptr<MainWindow> m_window;
 };

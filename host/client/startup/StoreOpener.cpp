@@ -16,14 +16,15 @@ QString StoreOpener::defaultPath()
         .filePath(QStringLiteral("persons.db"));
 }
 
-QString StoreOpener::open(const QString& path, bool ask)
+QString StoreOpener::open(const QString& path, bool ask, QString reason)
 {
     QString current = path;
-    for (;;) {
-        QDir().mkpath(QFileInfo(current).absolutePath());
-        QString reason;
-        if (qarn_data::DataService::instance().open(current, &reason))
-            return current;
+    for (;; reason.clear()) {
+        if (reason.isEmpty()) {
+            QDir().mkpath(QFileInfo(current).absolutePath());
+            if (qarn_data::DataService::instance().openAhead(current, &reason))
+                return current;
+        }
         if (!ask) {
             std::fprintf(stderr, "%s\n", qPrintable(reason));
             return QString();

@@ -8,8 +8,9 @@ class StoreOpener
 {
 public:
     /// The path of the opened store; empty when the operator quit. Without `ask` a failure is printed to
-    /// standard error and ends the attempt.
-    static QString open(const QString& path, bool ask);
+    /// standard error and ends the attempt. Begins with the question when the store at `path` has failed
+    /// already, for `reason`.
+    static QString open(const QString& path, bool ask, QString reason = QString());
 
     /// Where the store lies when nobody says otherwise.
     static QString defaultPath();

@@ -23,6 +23,9 @@ public:
     static PersonData& instance();
 
     QList<PersonInfo> getAllPersons(bool withoutImages) const;
+    /// While the store is still being read after the start, the first `count` persons and how many there are
+    /// in all, without waiting as the other reads do. False, and nothing given, once everything is there.
+    bool getFirstPersons(int count, QList<PersonInfo>* persons, int* total) const;
     QList<PersonInfo> getPersons(const QStringList& organizationIds, bool withoutImages) const;
     /// A record with an empty id when there is no such person.
     PersonInfo getPersonBySerialNum(const QString& serialNum, bool withoutImages) const;

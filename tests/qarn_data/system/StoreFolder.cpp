@@ -53,6 +53,24 @@ void StoreFolder::runSql(const QByteArray& sql) const
     sqlite3_close(connection);
 }
 
+void StoreFolder::spoilLastPersons() const
+{
+    sqlite3* connection = nullptr;
+    sqlite3_stmt* statement = nullptr;
+    if (sqlite3_open(storePath().toUtf8().constData(), &connection) != SQLITE_OK ||
+        sqlite3_prepare_v2(connection,
+                           "SELECT pgoffset, pgsize FROM dbstat WHERE name = 'persons' AND pagetype = 'leaf'"
+                           " ORDER BY path DESC LIMIT 1",
+                           -1, &statement, nullptr) != SQLITE_OK ||
+        sqlite3_step(statement) != SQLITE_ROW)
+        qFatal("no page to spoil: %s", sqlite3_errmsg(connection));
+    const int offset = sqlite3_column_int(statement, 0);
+    const int size = sqlite3_column_int(statement, 1);
+    sqlite3_finalize(statement);
+    sqlite3_close(connection);
+    write(read().replace(offset, size, QByteArray(size, '\xee')));
+}
+
 QMap<QString, QByteArray> StoreFolder::content() const
 {
     QMap<QString, QByteArray> files;

@@ -19,6 +19,8 @@ public:
     void write(const QByteArray& bytes) const;
     QByteArray read() const;
     void runSql(const QByteArray& sql) const;
+    /// Spoils the page that holds the persons who were added last: the first ones can still be read.
+    void spoilLastPersons() const;
 
     /// Names and bytes of all files.
     QMap<QString, QByteArray> content() const;

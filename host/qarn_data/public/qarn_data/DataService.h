@@ -19,7 +19,11 @@ public:
     /// Opens the store at a file path, or ":memory:"; makes a new one where there is no file yet. On
     /// failure returns false, tells file and cause in `error`, and leaves the file as it was.
     bool open(const QString& location, QString* error = nullptr);
-    void close();
+    /// The same, but comes back as soon as the first page of persons can be shown; the rest is read
+    /// meanwhile. Whoever asks for persons before that is done waits for it (PersonData::getFirstPersons()
+    /// does not).
+    bool openAhead(const QString& location, QString* error = nullptr);
+    void close(); ///< waits for the end of what openAhead() began
     bool isOpen() const;
     /// Writes a consistent copy to `filePath` while the store stays in use.
     bool backup(const QString& filePath, QString* error = nullptr);
@@ -30,10 +34,14 @@ public:
 signals:
     /// A refused write, in words for the operator. Emitted once a refusal, in the writing thread.
     void signalFailed(const QString& text);
+    /// The store that openAhead() opened cannot be read to its end, and is closed again. `reason` tells file
+    /// and cause. Emitted in another thread.
+    void signalLoadingFailed(const QString& reason);
 
 private:
     DataService();
     ~DataService() override;
+    void watchForeignChanges(bool on);
 };
 
 } // namespace qarn_data
