@@ -8,8 +8,6 @@
 #include <qarn_base/SearchTreeTools.h>
 #include <qarn_base/TreeItem.h>
 #include <qarn_data/DataSignals.h>
-#include <qarn_worker/DictDef.h>
-#include <qarn_worker/SystemAssistant.h>
 
 #include <QEvent>
 #include <QRegularExpressionValidator>
@@ -241,12 +239,6 @@ bool PersonMgrForm::eventFilter(QObject* watched, QEvent* event)
 void PersonMgrForm::setHeaderRightMargin(int margin)
 {
     m_ui->horizontalLayout_12->setContentsMargins(0, 1, margin, 1);
-}
-
-void PersonMgrForm::warn(const QString& text) const
-{
-    qarn_worker::SystemAssistant::instance().messageAlert(qarn_worker::DictDef::instance().warningAlertTitle,
-                                                          text);
 }
 
 } // namespace qarn_personMgr

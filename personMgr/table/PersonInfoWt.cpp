@@ -3,8 +3,8 @@
 
 #include "editor/PersonInfoModifyDlg.h"
 #include "query/PersonFilter.h"
+#include "shared/ModalDialog.h"
 #include "table/FaceThumbnails.h"
-#include "table/ModalDialog.h"
 
 #include <qarn_base/BaseTools.h>
 #include <qarn_base/XMessageBox.h>

@@ -1,5 +1,6 @@
 #include "tree/PersonMgrTree.h"
 
+#include "shared/Alerts.h"
 #include "tree/OrganizationNameRules.h"
 
 #include <qarn_base/BaseTools.h>
@@ -7,8 +8,6 @@
 #include <qarn_base/TreeItemOperWt.h>
 #include <qarn_base/XMessageBox.h>
 #include <qarn_data/PersonData.h>
-#include <qarn_worker/DictDef.h>
-#include <qarn_worker/SystemAssistant.h>
 
 #include <QPointer>
 #include <QUuid>
@@ -30,12 +29,6 @@ namespace
 {
 enum Column { NameColumn = 0 };
 constexpr int NameMaxLength = 20;
-
-void warn(const QString& text)
-{
-    qarn_worker::SystemAssistant::instance().messageAlert(qarn_worker::DictDef::instance().warningAlertTitle,
-                                                          text);
-}
 } // namespace
 
 PersonMgrTree::PersonMgrTree(QWidget* parent) : PersonTree(parent, nullptr)
@@ -47,7 +40,7 @@ void PersonMgrTree::slotAddNewOrganization()
 {
     const TreeItem* item = getCurSelTreeItem();
     if (item == nullptr)
-        warn(tr("Please select which organization to add to"));
+        alertWarning(tr("Please select which organization to add to"));
     else
         showOrganizationModifyDlg(ItemModifyDlg::AddItem, item);
 }
@@ -56,9 +49,9 @@ void PersonMgrTree::slotDeleteCurSelOrganization()
 {
     TreeItem* item = getCurSelTreeItem();
     if (item == nullptr)
-        warn(tr("Please select which organization to delete"));
+        alertWarning(tr("Please select which organization to delete"));
     else if (PersonData::instance().isRootOrganization(item->getId()))
-        warn(tr("root organization can not be deleted"));
+        alertWarning(tr("root organization can not be deleted"));
     else
         deleteOrganizationItem(item);
 }
