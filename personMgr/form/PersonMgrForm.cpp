@@ -3,6 +3,7 @@
 
 #include "query/PersonMgrWorker.h"
 #include "query/PersonQueryCondition.h"
+#include "shared/Colors.h"
 #include "table/PersonsTableWt.h"
 
 #include <qarn_base/SearchTreeTools.h>
@@ -63,7 +64,7 @@ PersonMgrForm::~PersonMgrForm()
 
 void PersonMgrForm::setStyles()
 {
-    setBackgroundColor(QColor(0x0b, 0x12, 0x1e));
+    setBackgroundColor(Colors::Page);
     setStyleProperty(m_ui->searchBt, "common_bt_style1");
     setStyleProperty(m_ui->resetBt, "common_bt_style2");
     const QList<IconButton*> toolBar = m_ui->widget_4->findChildren<IconButton*>();
