@@ -7,10 +7,10 @@
 #include "support/Figure.h"
 #include "support/Memory.h"
 #include "support/People.h"
+#include "support/Photographs.h"
 #include "support/StoreFiles.h"
 #include "sync/SynchronizeFacesThread.h"
 #include "table/PageWindow.h"
-#include "table/Photographs.h"
 #include "transfer/PersonTable.h"
 #include "transfer/Workers.h"
 

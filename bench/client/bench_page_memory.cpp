@@ -2,12 +2,10 @@
 
 #include "support/Figure.h"
 #include "support/Memory.h"
-#include "support/People.h"
+#include "support/Photographs.h"
 #include "support/StoreFiles.h"
 #include "table/PageWindow.h"
-#include "table/Photographs.h"
-
-#include <qarn_data/PersonData.h>
+#include "table/PhotographedPersons.h"
 
 #include <QApplication>
 
@@ -20,24 +18,7 @@ constexpr int PageSize = 50;
 constexpr int PagesInStore = 40; // 2,000 photographs, more than the thumbnails that are kept
 constexpr int FirstPages = 20;
 constexpr int AllPages = 2000;
-constexpr int DistinctPhotos = 50;
 constexpr QSize PhotoSize(240, 320);
-
-void fill()
-{
-    People people(1);
-    QList<QByteArray> photos;
-    for (int i = 0; i < DistinctPhotos; ++i)
-        photos.append(photograph(quint32(i + 1), PhotoSize));
-    const QString root = qarn_data::PersonData::instance().getRootOrganizationId();
-    qarn_data::PersonList persons;
-    for (int i = 0; i < PageSize * PagesInStore; ++i) {
-        persons.append(people.next(root));
-        persons.last().faceImage1 = withComment(photos.at(i % DistinctPhotos), i);
-    }
-    if (!qarn_data::PersonData::instance().addPersons(persons))
-        qFatal("the store does not take the persons");
-}
 
 } // namespace
 
@@ -47,7 +28,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     const StoreFiles files;
     openStore(files.path(QStringLiteral("photos.db")));
-    fill();
+    addPhotographedPersons(PageSize * PagesInStore, photographs(PageSize, PhotoSize));
     Figure figure{"memory_2000_pages_bytes"};
     figure.limit = 1.1;
     {
