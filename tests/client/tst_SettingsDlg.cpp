@@ -1,6 +1,7 @@
 #include "settings/ClientSettings.h"
 #include "settings/SettingsDlg.h"
 
+#include "FileChooser.h"
 #include "ModalDriver.h"
 #include "TestPersons.h"
 #include "TestStore.h"
@@ -10,9 +11,6 @@
 #include <qarn_worker/DictDef.h>
 #include <qarn_worker/SystemAssistant.h>
 
-#include <QAbstractItemView>
-#include <QCompleter>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -75,14 +73,7 @@ void tst_SettingsDlg::cleanup()
 
 void tst_SettingsDlg::expectPath(const QString& path)
 {
-    m_driver.expect([path](QWidget* window) {
-        auto* edit = window->findChild<QLineEdit*>("fileNameEdit");
-        QVERIFY(edit != nullptr);
-        edit->selectAll();
-        QTest::keyClicks(edit, path);
-        edit->completer()->popup()->hide(); // its proposals would take the key
-        QTest::keyClick(edit, Qt::Key_Return);
-    });
+    m_driver.expect([path](QWidget* window) { choosePath(window, path); });
 }
 
 void tst_SettingsDlg::backsUpTheRegister()
@@ -128,7 +119,7 @@ void tst_SettingsDlg::tellsWhyThereIsNoBackup()
 
 void tst_SettingsDlg::makesNoBackupWhenCancelled()
 {
-    m_driver.expect([](QWidget* window) { QTest::keyClick(window, Qt::Key_Escape); });
+    expectPath(QString());
     backUp();
     QVERIFY(m_dialog->findChild<DisabledWaitingWt*>() == nullptr);
     QVERIFY(m_dialog->findChild<QThread*>() == nullptr);
