@@ -2,6 +2,7 @@
 // saving them, against decoding and encoding them. Milliseconds; without a display.
 
 #include "support/Figure.h"
+#include "support/Photographs.h"
 
 #include "editor/PersonInfoModifyDlg.h"
 #include "editor/PersonInfoModifyWt.h"
@@ -10,9 +11,7 @@
 #include <qarn_data/PersonInfo.h>
 
 #include <QApplication>
-#include <QBuffer>
 #include <QImage>
-#include <QRandomGenerator>
 
 using namespace qarn_bench;
 using qarn_data::PersonInfo;
@@ -24,34 +23,6 @@ namespace
 
 constexpr QSize PhotoSize(4000, 3000);
 constexpr int Rounds = 11;
-
-QByteArray encode(const QImage& image, int quality = -1)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "jpg", quality);
-    return bytes;
-}
-
-/// As hard to decode as a camera's picture: soft shapes under the grain of a sensor.
-QByteArray photograph(quint32 seed)
-{
-    QRandomGenerator random(seed);
-    QImage shapes(40, 30, QImage::Format_RGB32);
-    for (int y = 0; y < shapes.height(); ++y) {
-        for (int x = 0; x < shapes.width(); ++x)
-            shapes.setPixel(x, y, random.generate());
-    }
-    QImage photo = shapes.scaled(PhotoSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                       .convertToFormat(QImage::Format_RGB32);
-    for (int y = 0; y < photo.height(); ++y) {
-        auto* line = reinterpret_cast<QRgb*>(photo.scanLine(y));
-        for (int x = 0; x < photo.width(); ++x)
-            line[x] ^= random.generate() & 0x00070707;
-    }
-    return encode(photo, 90);
-}
 
 double timeToOpen(const PersonInfo& person)
 {
@@ -88,7 +59,7 @@ double timeToEncode(const QList<QByteArray>& photos)
 {
     return milliseconds([&] {
         for (const QByteArray& photo : photos)
-            encode(QImage::fromData(photo, "jpg"));
+            encodeJpeg(QImage::fromData(photo, "jpg"));
     });
 }
 
@@ -100,7 +71,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     if (!qarn_data::DataService::instance().open(QStringLiteral(":memory:")))
         qFatal("no store");
-    const QList<QByteArray> photos{photograph(1), photograph(2), photograph(3)};
+    const QList<QByteArray> photos = photographs(3, PhotoSize);
     PersonInfo person;
     person.id = QStringLiteral("{person}");
     person.name = QStringLiteral("Ann");

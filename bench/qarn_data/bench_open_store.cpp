@@ -41,13 +41,7 @@ int measureOurs(const QString& path)
 int measurePeer(const QString& path)
 {
     qint64 rows = 0;
-    const double time = milliseconds([&] {
-        const SqliteConnection connection = openSqlite(path);
-        for (const std::string& table : tableNames(connection.get())) {
-            if (table != "change_log") // only for processes that have the store open already
-                rows += touchAll(prepare(connection.get(), "SELECT * FROM " + table).get());
-        }
-    });
+    const double time = milliseconds([&] { rows = readWholeStore(path); });
     if (rows < 2 * PersonCount)
         qFatal("the peer has read %lld rows only", static_cast<long long>(rows));
     return printMeasure(time);

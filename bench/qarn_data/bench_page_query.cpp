@@ -2,7 +2,7 @@
 // SQLite's C interface on the same file.
 
 #include "support/Figure.h"
-#include "support/Sqlite.h"
+#include "support/PageQueryPeer.h"
 #include "support/StoreFiles.h"
 
 #include "query/PersonMgrWorker.h"
@@ -11,7 +11,6 @@
 #include <qarn_data/PersonInfo.h>
 
 #include <QCoreApplication>
-#include <QDateTime>
 
 using namespace qarn_bench;
 using qarn_personMgr::PersonMgrWorker;
@@ -23,40 +22,6 @@ namespace
 constexpr int PersonCount = 100000;
 constexpr int Rounds = 15;
 const char* const Fragment = "an";
-const std::string Matching = " FROM records JOIN persons ON persons.number = records.person"
-                             " WHERE persons.name LIKE ?1 AND valid_start <= ?2 AND valid_end >= ?2";
-
-class Peer
-{
-public:
-    explicit Peer(const QString& path) : m_connection(openSqlite(path))
-    {
-        execute(m_connection.get(), "PRAGMA case_sensitive_like = ON"); // so that both find the same persons
-        m_count = prepare(m_connection.get(), "SELECT count(*)" + Matching);
-        m_page = prepare(m_connection.get(),
-                         "SELECT records.*, persons.*" + Matching + " ORDER BY records.number LIMIT 50");
-    }
-
-    int query()
-    {
-        const std::string pattern = '%' + std::string(Fragment) + '%';
-        for (sqlite3_stmt* statement : {m_count.get(), m_page.get()}) {
-            sqlite3_reset(statement);
-            sqlite3_bind_text(statement, 1, pattern.c_str(), -1, SQLITE_TRANSIENT);
-            sqlite3_bind_int64(statement, 2, QDateTime::currentMSecsSinceEpoch());
-        }
-        sqlite3_step(m_count.get());
-        const int total = sqlite3_column_int(m_count.get(), 0);
-        touchAll(m_page.get());
-        return total;
-    }
-
-private:
-    SqliteConnection m_connection;
-    SqliteStatement m_count;
-    SqliteStatement m_page;
-};
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -65,7 +30,7 @@ int main(int argc, char** argv)
     const StoreFiles files;
     const QString path = makeStore(files, QStringLiteral("store.db"), PersonCount);
     openStore(path);
-    Peer peer(path);
+    PageQueryPeer peer(path);
     int ours = 0;
     int theirs = 0;
     QObject::connect(&PersonMgrWorker::instance(), &PersonMgrWorker::signalCurPagePersons, &application,
@@ -79,7 +44,7 @@ int main(int argc, char** argv)
     measureAlternately(
         figure, Rounds,
         [&] { return milliseconds([&] { PersonMgrWorker::instance().queryPersons(condition); }); },
-        [&] { return milliseconds([&] { theirs = peer.query(); }); });
+        [&] { return milliseconds([&] { theirs = peer.query(Fragment); }); });
     if (ours == 0 || ours != theirs)
         qFatal("found %d persons, the peer %d", ours, theirs);
     const int status = report(figure);

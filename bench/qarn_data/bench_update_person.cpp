@@ -1,10 +1,7 @@
 // updatePerson, 10,000 calls in a store of 100,000, against the same statements through SQLite's C
 // interface; every update is a transaction of its own on both sides.
 
-#include "support/Figure.h"
-#include "support/StatementRecorder.h"
-#include "support/StatementReplay.h"
-#include "support/StoreFiles.h"
+#include "qarn_data/WriteFigure.h"
 
 #include <qarn_data/PersonData.h>
 
@@ -18,7 +15,6 @@ namespace
 
 constexpr int PersonCount = 100000;
 constexpr int UpdateCount = 10000;
-constexpr int Rounds = 5;
 
 qarn_data::PersonList changedPersons(const QString& path)
 {
@@ -45,17 +41,6 @@ void updateAll(const qarn_data::PersonList& persons)
     }
 }
 
-RecordedStatements recordUpdates(const QString& path, const qarn_data::PersonList& persons)
-{
-    StatementRecorder recorder;
-    openStore(path);
-    recorder.clearStatements();
-    updateAll(persons);
-    RecordedStatements statements = recorder.takeStatements();
-    closeStore();
-    return statements;
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -64,23 +49,5 @@ int main(int argc, char** argv)
     const StoreFiles files;
     const QString store = makeStore(files, QStringLiteral("store.db"), PersonCount);
     const qarn_data::PersonList changed = changedPersons(store);
-    const RecordedStatements updates =
-        recordUpdates(files.copy(store, QStringLiteral("recorded.db")), changed);
-
-    Figure figure{"update_person_10000_ms"};
-    figure.limit = 1.5;
-    measureAlternately(
-        figure, Rounds,
-        [&] {
-            openStore(files.copy(store, QStringLiteral("ours.db")));
-            const double time = milliseconds([&] { updateAll(changed); });
-            closeStore();
-            return time;
-        },
-        [&] {
-            StatementReplay replay(files.copy(store, QStringLiteral("peer.db")), updates);
-            return milliseconds([&] { replay.run(); });
-        });
-    requireSameRows(files.path(QStringLiteral("recorded.db")), files.path(QStringLiteral("peer.db")));
-    return report(figure);
+    return measureWrites("update_person_10000_ms", files, store, [&] { updateAll(changed); });
 }

@@ -69,4 +69,15 @@ qint64 touchAll(sqlite3_stmt* statement)
     return rows;
 }
 
+qint64 readWholeStore(const QString& path)
+{
+    const SqliteConnection connection = openSqlite(path);
+    qint64 rows = 0;
+    for (const std::string& table : tableNames(connection.get())) {
+        if (table != "change_log")
+            rows += touchAll(prepare(connection.get(), "SELECT * FROM " + table).get());
+    }
+    return rows;
+}
+
 } // namespace qarn_bench

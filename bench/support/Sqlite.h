@@ -26,5 +26,7 @@ void execute(sqlite3* connection, const std::string& sql);
 std::vector<std::string> tableNames(sqlite3* connection); ///< without SQLite's own
 /// Reads every value of every row that is left, as what it is; the number of rows.
 qint64 touchAll(sqlite3_stmt* statement);
+/// Every row of a register's file but those that only clients which have it open would look at.
+qint64 readWholeStore(const QString& path);
 
 } // namespace qarn_bench

@@ -1,3 +1,6 @@
+// The most memory that a process holds while it imports a file of a million new persons, against the most
+// that it holds when it only opens the register that comes out of it.
+
 #include "support/ChildRun.h"
 #include "support/Figure.h"
 #include "support/StoreFiles.h"
@@ -8,8 +11,7 @@
 
 #include <sys/resource.h>
 
-// The most memory that a process holds while it imports a file of a million new persons, against the most
-// that it holds when it only opens the register that comes out of it.
+using namespace qarn_bench;
 
 namespace
 {
@@ -25,12 +27,12 @@ double peakMegabytes()
 
 int measure(const QString& store, const QString& table)
 {
-    qarn_bench::openStore(store);
+    openStore(store);
     if (!table.isEmpty())
-        qarn_bench::importPersons(table);
+        importPersons(table);
     const double peak = peakMegabytes();
-    qarn_bench::closeStore();
-    return qarn_bench::printMeasure(peak);
+    closeStore();
+    return printMeasure(peak);
 }
 
 } // namespace
@@ -41,13 +43,13 @@ int main(int argc, char* argv[])
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     if (arguments.count() == 2)
         return measure(arguments[0], arguments[1]);
-    const qarn_bench::StoreFiles files;
+    const StoreFiles files;
     const QString table = files.path(QStringLiteral("persons.csv"));
     const QString store = files.path(QStringLiteral("ours.db"));
-    qarn_bench::writePersonTable(table, Count);
-    qarn_bench::Figure figure{"peak memory importing 1,000,000 persons, MB"};
+    writePersonTable(table, Count);
+    Figure figure{"import_memory_1000000_mb"};
     figure.limit = 3;
-    figure.ours = qarn_bench::measureInChild({store, table});
-    figure.peer = qarn_bench::measureInChild({store, QString()});
-    return qarn_bench::report(figure);
+    figure.ours = measureInChild({store, table});
+    figure.peer = measureInChild({store, QString()});
+    return report(figure);
 }

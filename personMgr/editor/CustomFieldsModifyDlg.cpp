@@ -1,13 +1,12 @@
 #include "editor/CustomFieldsModifyDlg.h"
 
 #include "editor/CustomFieldRules.h"
+#include "shared/Alerts.h"
 #include "ui_CustomFieldsModifyDlg.h"
 
 #include <qarn_base/EditOperWt.h>
 #include <qarn_base/XMessageBox.h>
 #include <qarn_data/PersonData.h>
-#include <qarn_worker/DictDef.h>
-#include <qarn_worker/SystemAssistant.h>
 
 #include <QHeaderView>
 #include <QLineEdit>
@@ -25,12 +24,6 @@ namespace qarn_personMgr
 namespace
 {
 constexpr int NameColumnWidth = 200;
-
-void warn(const QString& text)
-{
-    qarn_worker::SystemAssistant::instance().messageAlert(qarn_worker::DictDef::instance().warningAlertTitle,
-                                                          text);
-}
 } // namespace
 
 CustomFieldsModifyDlg::CustomFieldsModifyDlg(QWidget* parent)
@@ -103,7 +96,7 @@ void CustomFieldsModifyDlg::addField()
 {
     settleNameEdit();
     if (m_ui->tableWidget->rowCount() >= MaxCustomFields) {
-        warn(tr("the maximum number of custom fields has been reached"));
+        alertWarning(tr("the maximum number of custom fields has been reached"));
         return;
     }
     const QStringList taken = names();
@@ -195,7 +188,7 @@ void CustomFieldsModifyDlg::checkName(const QString& rowId)
         break;
     case RenameDecision::Refused:
         item->setText(accepted);
-        warn(tr("custom field name has exist"));
+        alertWarning(tr("custom field name has exist"));
         break;
     case RenameDecision::Accepted:
         item->setData(AcceptedNameRole, item->text());

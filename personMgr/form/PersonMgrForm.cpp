@@ -3,13 +3,12 @@
 
 #include "query/PersonMgrWorker.h"
 #include "query/PersonQueryCondition.h"
+#include "shared/Colors.h"
 #include "table/PersonsTableWt.h"
 
 #include <qarn_base/SearchTreeTools.h>
 #include <qarn_base/TreeItem.h>
 #include <qarn_data/DataSignals.h>
-#include <qarn_worker/DictDef.h>
-#include <qarn_worker/SystemAssistant.h>
 
 #include <QEvent>
 #include <QRegularExpressionValidator>
@@ -65,7 +64,7 @@ PersonMgrForm::~PersonMgrForm()
 
 void PersonMgrForm::setStyles()
 {
-    setBackgroundColor(QColor(0x0b, 0x12, 0x1e));
+    setBackgroundColor(Colors::Page);
     setStyleProperty(m_ui->searchBt, "common_bt_style1");
     setStyleProperty(m_ui->resetBt, "common_bt_style2");
     const QList<IconButton*> toolBar = m_ui->widget_4->findChildren<IconButton*>();
@@ -241,12 +240,6 @@ bool PersonMgrForm::eventFilter(QObject* watched, QEvent* event)
 void PersonMgrForm::setHeaderRightMargin(int margin)
 {
     m_ui->horizontalLayout_12->setContentsMargins(0, 1, margin, 1);
-}
-
-void PersonMgrForm::warn(const QString& text) const
-{
-    qarn_worker::SystemAssistant::instance().messageAlert(qarn_worker::DictDef::instance().warningAlertTitle,
-                                                          text);
 }
 
 } // namespace qarn_personMgr

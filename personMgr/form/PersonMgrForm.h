@@ -89,7 +89,6 @@ private:
     ImportPersonsThread* createImport(const ImportPersonsDlg& dialog); ///< null: something is missing
     SynchronizeFacesThread* createSyncToDevs(const SynchronizeFacesToDevsDlg& dialog); ///< likewise
     void followSync(SynchronizeFacesThread* thread, const CoveredRun& run);
-    void warn(const QString& text) const;
 
     std::unique_ptr<Ui::PersonMgrForm> m_ui;
     PersonsTableWt* m_personsTable = nullptr; ///< owned by the scroll area

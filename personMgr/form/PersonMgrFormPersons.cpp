@@ -4,7 +4,8 @@
 #include "editor/CustomFieldsModifyDlg.h"
 #include "editor/PersonInfoModifyDlg.h"
 #include "query/PersonMgrWorker.h"
-#include "table/ModalDialog.h"
+#include "shared/Alerts.h"
+#include "shared/ModalDialog.h"
 #include "table/PersonsTableWt.h"
 #include "tree/ChangePersonsOrganizationDlg.h"
 
@@ -37,7 +38,7 @@ void PersonMgrForm::slotAddPersonBtClicked()
 {
     const QString organizationId = m_ui->treeWidget->getCurSelOrganizationId();
     if (organizationId.isEmpty()) {
-        warn(tr("Please select which organization to add person first"));
+        alertWarning(tr("Please select which organization to add person first"));
         return;
     }
     PersonInfo person;
@@ -69,7 +70,7 @@ void PersonMgrForm::deleteCheckedPersons()
 {
     const QStringList ids = m_personsTable->getCheckedPersonIds();
     if (ids.isEmpty())
-        warn(tr("Please select persons to delete"));
+        alertWarning(tr("Please select persons to delete"));
     else if (confirm(this, tr("Do you want to delete selected persons?")))
         PersonData::instance().deletePersons(ids);
 }
@@ -78,7 +79,7 @@ void PersonMgrForm::deleteAllPersons()
 {
     const QStringList ids = PersonMgrWorker::instance().cachedPersonIds();
     if (ids.isEmpty())
-        warn(tr("There is no person to delete in the table"));
+        alertWarning(tr("There is no person to delete in the table"));
     else if (confirm(this, tr("Do you want to delete all the persons in the table?")))
         PersonData::instance().deletePersons(ids);
 }
@@ -87,7 +88,7 @@ void PersonMgrForm::slotMovePersonsBtClicked()
 {
     const QList<PersonInfo> persons = m_personsTable->getCheckedPersons();
     if (persons.isEmpty()) {
-        warn(tr("Please select persons to move"));
+        alertWarning(tr("Please select persons to move"));
         return;
     }
     ModalDialog<ChangePersonsOrganizationDlg> dialog(this);

@@ -2,20 +2,17 @@
 #include "ui_PersonMgrForm.h"
 
 #include "form/CoveredRun.h"
+#include "shared/Alerts.h"
+#include "shared/ModalDialog.h"
 #include "sync/SynchronizeFacesThread.h"
 #include "sync/SynchronizeFacesToDevsDlg.h"
-#include "table/ModalDialog.h"
 #include "table/PersonsTableWt.h"
 
 #include <qarn_base/AbilityDevsSelFromTreeDlg.h>
 #include <qarn_base/XMessageBox.h>
-#include <qarn_worker/DictDef.h>
-#include <qarn_worker/SystemAssistant.h>
 
 using qarn_base::AbilityDevsSelFromTreeDlg;
 using qarn_base::XMessageBox;
-using qarn_worker::DictDef;
-using qarn_worker::SystemAssistant;
 
 namespace qarn_personMgr
 {
@@ -39,8 +36,7 @@ void PersonMgrForm::slotSynchronizeToDevBtClicked()
     followSync(thread, run);
     connect(thread, &SynchronizeFacesThread::signalSyncFinished, this, [run] {
         if (run.end())
-            SystemAssistant::instance().messageAlert(DictDef::instance().successAlertTitle,
-                                                     tr("Synchronize persons to devs finished"));
+            alertSuccess(tr("Synchronize persons to devs finished"));
     });
     connect(thread, &SynchronizeFacesThread::signalSyncTimeout, this, [this, run] {
         if (run.end())
@@ -56,14 +52,14 @@ SynchronizeFacesThread* PersonMgrForm::createSyncToDevs(const SynchronizeFacesTo
         if (!ids.isEmpty())
             return new SynchronizeFacesThread(ids, dialog.getCheckedChannels(), dialog.isDeleteRemoved(),
                                               this);
-        warn(tr("Please select organization to synchronize"));
+        alertWarning(tr("Please select organization to synchronize"));
         return nullptr;
     }
     const QList<qarn_data::PersonInfo> persons = m_personsTable->getCheckedPersons();
     if (!persons.isEmpty())
         return new SynchronizeFacesThread(persons, dialog.getCheckedChannels(), dialog.isDeleteRemoved(),
                                           this);
-    warn(tr("Please check persons to synchronize"));
+    alertWarning(tr("Please check persons to synchronize"));
     return nullptr;
 }
 
@@ -71,7 +67,7 @@ void PersonMgrForm::slotSynchronizeFromDevBtClicked()
 {
     const QString organizationId = m_ui->treeWidget->getCurSelOrganizationId();
     if (organizationId.isEmpty()) {
-        warn(tr("Please select organization to synchronize faces from devs"));
+        alertWarning(tr("Please select organization to synchronize faces from devs"));
         return;
     }
     ModalDialog<AbilityDevsSelFromTreeDlg> dialog(
@@ -88,8 +84,7 @@ void PersonMgrForm::slotSynchronizeFromDevBtClicked()
         m_bulkOperationRunning = false;
         if (!run.end())
             return;
-        SystemAssistant::instance().messageAlert(DictDef::instance().successAlertTitle,
-                                                 tr("Synchronize persons from devs finished"));
+        alertSuccess(tr("Synchronize persons from devs finished"));
         searchPersons(1);
     });
     connect(thread, &SynchronizeFacesThread::signalSyncTimeout, this, [this, run] {
@@ -104,7 +99,7 @@ void PersonMgrForm::followSync(SynchronizeFacesThread* thread, const CoveredRun&
 {
     connect(thread, &SynchronizeFacesThread::signalSyncMsg, this, [run](const QString& msg, bool isNormal) {
         if (!isNormal)
-            SystemAssistant::instance().messageAlert(DictDef::instance().errorAlertTitle, msg);
+            alertError(msg);
         run.updateDescription(msg);
     });
 }

@@ -2,7 +2,8 @@
 #include "ui_PersonMgrForm.h"
 
 #include "form/CoveredRun.h"
-#include "table/ModalDialog.h"
+#include "shared/Alerts.h"
+#include "shared/ModalDialog.h"
 #include "transfer/ExportPersonsDlg.h"
 #include "transfer/ExportPersonsThread.h"
 #include "transfer/ImportPersonsDlg.h"
@@ -11,16 +12,12 @@
 #include <XCOMMON/XFileDialog.h>
 #include <qarn_base/XMessageBox.h>
 #include <qarn_data/PersonData.h>
-#include <qarn_worker/DictDef.h>
 #include <qarn_worker/DiskManager.h>
-#include <qarn_worker/SystemAssistant.h>
 
 #include <QStandardPaths>
 
 using qarn_base::XMessageBox;
 using qarn_data::PersonData;
-using qarn_worker::DictDef;
-using qarn_worker::SystemAssistant;
 using XCOMMON::XFileDialog;
 
 namespace qarn_personMgr
@@ -31,7 +28,7 @@ void PersonMgrForm::slotExportPersonsBtClicked()
     const QString organization =
         PersonData::instance().getOrganizationName(m_ui->treeWidget->getCurSelOrganizationId());
     if (organization.isEmpty()) {
-        warn(tr("Please select whick organization to export persons"));
+        alertWarning(tr("Please select whick organization to export persons"));
         return;
     }
     ModalDialog<ExportPersonsDlg> dialog(this);
@@ -54,7 +51,7 @@ QString PersonMgrForm::askExportPath(bool faceMode)
                                           XFileDialog::ShowDirsOnly | XFileDialog::DontResolveSymlinks);
     if (!path.contains(QLatin1Char('=')))
         return path;
-    warn(tr("path cannot contain="));
+    alertWarning(tr("path cannot contain="));
     return QString();
 }
 
@@ -74,8 +71,7 @@ void PersonMgrForm::exportPersons(const ExportPersonsDlg& dialog, const QString&
         if (!run.end())
             return;
         if (success)
-            SystemAssistant::instance().messageAlert(DictDef::instance().successAlertTitle,
-                                                     tr("Export persons finished"));
+            alertSuccess(tr("Export persons finished"));
         else
             XMessageBox::information(this, tr("Export persons failed"), XMessageBox::Ok, false);
     });
@@ -106,7 +102,7 @@ ImportPersonsThread* PersonMgrForm::createImport(const ImportPersonsDlg& dialog)
         return new ImportPersonsThread(dialog.getPath(), this);
     const QString organizationId = m_ui->treeWidget->getCurSelOrganizationId();
     if (organizationId.isEmpty()) {
-        warn(tr("Please select which organization to import persons"));
+        alertWarning(tr("Please select which organization to import persons"));
         return nullptr;
     }
     return new ImportPersonsThread(dialog.getPath(), organizationId, dialog.getNamingRule(), this);

@@ -45,14 +45,13 @@ QList<PersonInfo> filtered(const QList<PersonInfo>& persons, const PersonQueryCo
 {
     if (!isSelective(condition))
         return persons;
-    constexpr int ahead = 4;
     const QVector<int> indexes = matching(persons, condition);
     const ReadAhead readAhead(persons);
     QList<PersonInfo> kept;
     kept.reserve(indexes.count());
     for (int i = 0; i < indexes.count(); ++i) {
-        if (i + ahead < indexes.count())
-            readAhead.beforeCopying(indexes.at(i + ahead));
+        if (i + ReadAhead::Copies < indexes.count())
+            readAhead.beforeCopying(indexes.at(i + ReadAhead::Copies));
         kept.append(persons.at(indexes.at(i)));
     }
     return kept;

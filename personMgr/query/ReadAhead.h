@@ -13,6 +13,8 @@ namespace qarn_personMgr
 class ReadAhead
 {
 public:
+    static constexpr int Copies = 4; ///< so many persons before its own turn beforeCopying() does most
+
     explicit ReadAhead(const QList<qarn_data::PersonInfo>& persons) : m_persons(persons) {}
 
     /// To be called on the way at each index, for a walk that looks at the names.

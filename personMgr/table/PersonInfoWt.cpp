@@ -3,8 +3,9 @@
 
 #include "editor/PersonInfoModifyDlg.h"
 #include "query/PersonFilter.h"
+#include "shared/Colors.h"
+#include "shared/ModalDialog.h"
 #include "table/FaceThumbnails.h"
-#include "table/ModalDialog.h"
 
 #include <qarn_base/BaseTools.h>
 #include <qarn_base/XMessageBox.h>
@@ -27,13 +28,25 @@ constexpr int orderNumColumn = 125; // pixels
 constexpr int otherColumns = 7;
 constexpr int male = 1;
 
-const char* const styleSheets[] = {
-    "QWidget{background-color:#0b121e;border-bottom: 1px solid #213147;}QLabel {color:#6c7586; border:0px;} "
-    "QCheckBox{color:#6c7586; border:0px;}",
-    "QWidget{background-color:#213147;border-bottom: 1px solid #213147;}QLabel {color:#6c7586; border:0px;} "
-    "QCheckBox{color:#6c7586; border:0px;}",
-    "QWidget{background-color:#293a56;border-bottom: 1px solid #293a56;}QLabel {color:#ccd3dd; border:0px;} "
-    "QCheckBox{color:#ccd3dd; border:0px;}"};
+constexpr QRgb hoveredColor = 0xff213147;
+constexpr QRgb selectedColor = 0xff293a56;
+constexpr QRgb selectedText = 0xffccd3dd;
+
+QString makeStyleSheet(QRgb background, QRgb line, QRgb text)
+{
+    return QStringLiteral("QWidget{background-color:%1;border-bottom: 1px solid %2;}"
+                          "QLabel {color:%3; border:0px;} QCheckBox{color:%3; border:0px;}")
+        .arg(QColor(background).name(), QColor(line).name(), QColor(text).name());
+}
+
+/// In the order of PersonInfoWt::StyleState.
+const QString& styleSheetOf(int state)
+{
+    static const QString styleSheets[] = {makeStyleSheet(Colors::Page, hoveredColor, Colors::QuietText),
+                                          makeStyleSheet(hoveredColor, hoveredColor, Colors::QuietText),
+                                          makeStyleSheet(selectedColor, selectedColor, selectedText)};
+    return styleSheets[state];
+}
 
 } // namespace
 
@@ -115,7 +128,7 @@ void PersonInfoWt::setStyleState(int state)
 {
     if (state < NormalStyle || state > SelectedStyle)
         return;
-    const QString style = QString::fromLatin1(styleSheets[state]);
+    const QString& style = styleSheetOf(state);
     if (style != styleSheet()) // setting the same one again would polish all children anew
         setStyleSheet(style);
 }

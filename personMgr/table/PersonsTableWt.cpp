@@ -1,5 +1,6 @@
 #include "table/PersonsTableWt.h"
 
+#include "shared/Colors.h"
 #include "table/PersonInfoWt.h"
 
 #include <qarn_data/DataSignals.h>
@@ -18,8 +19,6 @@ namespace qarn_personMgr
 namespace
 {
 
-const QColor background(0x0b, 0x12, 0x1e);
-const QColor quietText(0x6c, 0x75, 0x86);
 constexpr int emptyHeight = 200; // pixels
 constexpr int bottomMargin = 90; // pixels
 
@@ -27,7 +26,7 @@ constexpr int bottomMargin = 90; // pixels
 
 PersonsTableWt::PersonsTableWt(QWidget* parent) : XWidget(parent), m_layout(new QVBoxLayout(this))
 {
-    setBackgroundColor(background);
+    setBackgroundColor(Colors::Page);
     m_layout->setContentsMargins(0, 0, 0, bottomMargin);
     m_layout->setSpacing(0);
     m_layout->addStretch(1);
@@ -146,7 +145,7 @@ void PersonsTableWt::paintEvent(QPaintEvent* event)
     if (!m_rows.isEmpty())
         return;
     QPainter painter(this);
-    painter.setPen(quietText);
+    painter.setPen(QColor(Colors::QuietText));
     painter.drawText(
         rect(), Qt::AlignCenter | Qt::TextWordWrap,
         tr("No persons to show. Select another organization, change the filters, or add persons."));

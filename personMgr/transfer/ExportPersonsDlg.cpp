@@ -1,11 +1,9 @@
 #include "transfer/ExportPersonsDlg.h"
 
+#include "shared/Alerts.h"
 #include "transfer/NamingRule.h"
 #include "transfer/PersonFileFormat.h"
 #include "ui_ExportPersonsDlg.h"
-
-#include <qarn_worker/DictDef.h>
-#include <qarn_worker/SystemAssistant.h>
 
 #include <QSignalBlocker>
 
@@ -194,8 +192,7 @@ QTreeWidget* ExportPersonsDlg::currentTree() const
 void ExportPersonsDlg::exportPersons()
 {
     if (currentTree()->topLevelItem(AllItem)->checkState(ItemColumn) == Qt::Unchecked)
-        qarn_worker::SystemAssistant::instance().messageAlert(
-            qarn_worker::DictDef::instance().warningAlertTitle, tr("Please select export columns"));
+        alertWarning(tr("Please select export columns"));
     else
         accept();
 }

@@ -1,5 +1,6 @@
 #include "transfer/ExportPersonsThread.h"
 
+#include "query/ReadAhead.h"
 #include "transfer/FaceFileName.h"
 #include "transfer/PersonFileFormat.h"
 #include "transfer/PersonFileWriter.h"
@@ -64,8 +65,13 @@ bool ExportPersonsThread::exportFile(const QList<PersonInfo>& persons)
     m_maleWord = qarn_base::BaseTools::instance().strSex(true);
     m_femaleWord = qarn_base::BaseTools::instance().strSex(false);
     writer.writeRow(m_headerTitles);
-    for (const PersonInfo& person : persons)
-        writer.writeRow(row(person));
+    const ReadAhead readAhead(persons);
+    for (int i = 0; i < persons.count(); ++i) {
+        readAhead.passingName(i);
+        if (i + ReadAhead::Copies < persons.count())
+            readAhead.beforeCopying(i + ReadAhead::Copies);
+        writer.writeRow(row(persons.at(i)));
+    }
     return writer.finish();
 }
 

@@ -1,13 +1,12 @@
 #include "transfer/ImportPersonsDlg.h"
 
+#include "shared/Alerts.h"
 #include "transfer/NamingRule.h"
 #include "transfer/PersonFileFormat.h"
 #include "transfer/PersonFileWriter.h"
 #include "ui_ImportPersonsDlg.h"
 
 #include <XCOMMON/XFileDialog.h>
-#include <qarn_worker/DictDef.h>
-#include <qarn_worker/SystemAssistant.h>
 
 #include <QKeyEvent>
 #include <QPointer>
@@ -25,11 +24,6 @@ namespace
 QString desktopDirectory()
 {
     return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
-}
-
-void alert(const QString& title, const QString& text)
-{
-    qarn_worker::SystemAssistant::instance().messageAlert(title, text);
 }
 
 /// A key that a link answers to.
@@ -155,10 +149,9 @@ void ImportPersonsDlg::downloadTemplate()
         written = writer.finish();
     }
     if (written)
-        alert(qarn_worker::DictDef::instance().successAlertTitle,
-              tr("Download import person template finished"));
+        alertSuccess(tr("Download import person template finished"));
     else
-        alert(qarn_worker::DictDef::instance().errorAlertTitle, tr("Download person import template failed"));
+        alertError(tr("Download person import template failed"));
 }
 
 } // namespace qarn_personMgr

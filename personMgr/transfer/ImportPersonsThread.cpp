@@ -1,13 +1,12 @@
 #include "transfer/ImportPersonsThread.h"
 
+#include "shared/Alerts.h"
 #include "transfer/FaceFileName.h"
 #include "transfer/PersonFileFormat.h"
 #include "transfer/PersonFileReader.h"
 
 #include <XCOMMON/ToolsCollection.h>
 #include <qarn_data/PersonData.h>
-#include <qarn_worker/DictDef.h>
-#include <qarn_worker/SystemAssistant.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -21,11 +20,6 @@ namespace qarn_personMgr
 
 namespace
 {
-
-void alert(const QString& title, const QString& text)
-{
-    qarn_worker::SystemAssistant::instance().messageAlert(title, text);
-}
 
 void setUnlessEmpty(QString& member, const QString& field)
 {
@@ -188,14 +182,13 @@ void ImportPersonsThread::finish()
     PersonData::instance().addPersons(m_newPersons);
     m_newPersons.clear();
     emit signalImportPersonsInfoResult(true);
-    alert(qarn_worker::DictDef::instance().successAlertTitle,
-          tr("import persons finished(Existing persons updated the information)"));
+    alertSuccess(tr("import persons finished(Existing persons updated the information)"));
 }
 
 void ImportPersonsThread::fail(const QString& reason)
 {
     emit signalImportPersonsInfoResult(false);
-    alert(qarn_worker::DictDef::instance().errorAlertTitle, reason);
+    alertError(reason);
 }
 
 } // namespace qarn_personMgr

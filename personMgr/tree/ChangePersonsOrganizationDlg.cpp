@@ -1,14 +1,11 @@
 #include "tree/ChangePersonsOrganizationDlg.h"
 #include "ui_ChangePersonsOrganizationDlg.h"
 
+#include "shared/Alerts.h"
+
 #include <qarn_base/SearchTreeTools.h>
-#include <qarn_worker/DictDef.h>
-#include <qarn_worker/SystemAssistant.h>
 
 #include <QKeyEvent>
-
-using qarn_worker::DictDef;
-using qarn_worker::SystemAssistant;
 
 namespace qarn_personMgr
 {
@@ -42,8 +39,7 @@ void ChangePersonsOrganizationDlg::validate()
     if (!getSelOrganizationId().isEmpty())
         accept();
     else
-        SystemAssistant::instance().messageAlert(DictDef::instance().warningAlertTitle,
-                                                 tr("Please Select organization to move persons"));
+        alertWarning(tr("Please Select organization to move persons"));
 }
 
 void ChangePersonsOrganizationDlg::keyPressEvent(QKeyEvent* event)

@@ -1,5 +1,7 @@
 #include "tree/PersonMgrTree.h"
 
+#include "shared/Alerts.h"
+#include "shared/ModalDialog.h"
 #include "tree/OrganizationNameRules.h"
 
 #include <qarn_base/BaseTools.h>
@@ -7,13 +9,8 @@
 #include <qarn_base/TreeItemOperWt.h>
 #include <qarn_base/XMessageBox.h>
 #include <qarn_data/PersonData.h>
-#include <qarn_worker/DictDef.h>
-#include <qarn_worker/SystemAssistant.h>
 
-#include <QPointer>
 #include <QUuid>
-
-#include <memory>
 
 using qarn_base::BaseTools;
 using qarn_base::ItemModifyDlg;
@@ -30,12 +27,6 @@ namespace
 {
 enum Column { NameColumn = 0 };
 constexpr int NameMaxLength = 20;
-
-void warn(const QString& text)
-{
-    qarn_worker::SystemAssistant::instance().messageAlert(qarn_worker::DictDef::instance().warningAlertTitle,
-                                                          text);
-}
 } // namespace
 
 PersonMgrTree::PersonMgrTree(QWidget* parent) : PersonTree(parent, nullptr)
@@ -47,7 +38,7 @@ void PersonMgrTree::slotAddNewOrganization()
 {
     const TreeItem* item = getCurSelTreeItem();
     if (item == nullptr)
-        warn(tr("Please select which organization to add to"));
+        alertWarning(tr("Please select which organization to add to"));
     else
         showOrganizationModifyDlg(ItemModifyDlg::AddItem, item);
 }
@@ -56,9 +47,9 @@ void PersonMgrTree::slotDeleteCurSelOrganization()
 {
     TreeItem* item = getCurSelTreeItem();
     if (item == nullptr)
-        warn(tr("Please select which organization to delete"));
+        alertWarning(tr("Please select which organization to delete"));
     else if (PersonData::instance().isRootOrganization(item->getId()))
-        warn(tr("root organization can not be deleted"));
+        alertWarning(tr("root organization can not be deleted"));
     else
         deleteOrganizationItem(item);
 }
@@ -101,32 +92,24 @@ void PersonMgrTree::showOrganizationModifyDlg(ModifyType modifyType, const TreeI
 {
     if (item == nullptr)
         return;
-    auto* dialog = new ItemModifyDlg(
+    const bool adds = modifyType == ItemModifyDlg::AddItem;
+    OrganizationInfo record =
+        adds ? OrganizationInfo{QString(), item->getId(), makeDefaultOrganizationName(item)}
+             : OrganizationInfo{item->getId(), item->getParentId(), item->getName()};
+    ModalDialog<ItemModifyDlg> dialog(
         [this](const QString& name, const QString& id) { return isOrganizationNameExist(name, id); },
         BaseTools::instance().getRootParentWt(this));
     dialog->setNameMaxLength(NameMaxLength);
-
-    auto record = std::make_shared<OrganizationInfo>(); // one for all that is added in this run
-    if (modifyType == ItemModifyDlg::AddItem) {
-        *record = {QString(), item->getId(), makeDefaultOrganizationName(item)};
-        dialog->setModifyType(modifyType, tr("Add Organization"), record->name, record->id);
-    } else {
-        *record = {item->getId(), item->getParentId(), item->getName()};
-        dialog->setModifyType(modifyType, tr("Edit Organization"), record->name, record->id);
-    }
-
-    connect(dialog, &ItemModifyDlg::signalAddItem, this,
-            [this, record, dialog](const QString& name, bool keepAdding) {
-                addOrganizationFromDlg(*record, *dialog, name, keepAdding);
-            });
-    connect(dialog, &ItemModifyDlg::signalEditItem, this, [record](const QString&, const QString& name) {
-        record->name = name;
-        PersonData::instance().updateOrganization(*record);
+    dialog->setModifyType(modifyType, adds ? tr("Add Organization") : tr("Edit Organization"), record.name,
+                          record.id);
+    connect(&*dialog, &ItemModifyDlg::signalAddItem, this, [&](const QString& name, bool keepAdding) {
+        addOrganizationFromDlg(record, *dialog, name, keepAdding);
     });
-    const QPointer<ItemModifyDlg> guard(dialog); // goes with its parent when the client quits meanwhile
-    dialog->exec();
-    if (guard)
-        guard->deleteLater();
+    connect(&*dialog, &ItemModifyDlg::signalEditItem, this, [&record](const QString&, const QString& name) {
+        record.name = name;
+        PersonData::instance().updateOrganization(record);
+    });
+    dialog.exec();
 }
 
 void PersonMgrTree::addOrganizationFromDlg(OrganizationInfo& record, ItemModifyDlg& dialog,

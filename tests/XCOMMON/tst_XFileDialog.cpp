@@ -1,17 +1,16 @@
 #include "FileDialogSuffix.h"
 
+#include <FileChooser.h>
 #include <ModalDriver.h>
 #include <XCOMMON/XFileDialog.h>
 
 #include <QAbstractItemView>
-#include <QCompleter>
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
 #include <QTemporaryDir>
-#include <QtTest>
 
 using XCOMMON::XFileDialog;
 
@@ -19,17 +18,6 @@ namespace
 {
 
 const QString csvFilter = QStringLiteral("CSV(*.csv)");
-
-void typeName(QWidget* dialog, const QString& name)
-{
-    QCOMPARE(dialog->objectName(), QStringLiteral("XFileDialog"));
-    auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    QVERIFY(edit != nullptr);
-    QTest::mouseClick(edit, Qt::LeftButton);
-    edit->selectAll();
-    QTest::keyClicks(edit, name);
-    edit->completer()->popup()->hide(); // its proposals would take the next click
-}
 
 void press(QWidget* dialog, QDialogButtonBox::StandardButton which)
 {
@@ -145,7 +133,7 @@ void tst_XFileDialog::savesUnderATypedName()
     ModalDriver driver;
     driver.expect([](QWidget* dialog) {
         QCOMPARE(dialog->windowTitle(), QStringLiteral("Export Persons"));
-        typeName(dialog, QStringLiteral("all persons.v2"));
+        typePath(dialog, QStringLiteral("all persons.v2"));
         press(dialog, QDialogButtonBox::Save);
     });
     const QString chosen = XFileDialog::getSaveFileName(nullptr, QStringLiteral("Export Persons"),
@@ -159,7 +147,7 @@ void tst_XFileDialog::asksBeforeItReplaces()
     touch(path(QStringLiteral("taken.csv")));
     ModalDriver driver;
     driver.expect([](QWidget* dialog) {
-        typeName(dialog, QStringLiteral("taken"));
+        typePath(dialog, QStringLiteral("taken"));
         press(dialog, QDialogButtonBox::Save);
     });
     driver.expect([](QWidget* question) { answer(question, QMessageBox::Yes); });
@@ -169,10 +157,10 @@ void tst_XFileDialog::asksBeforeItReplaces()
 
     driver.expect([&driver](QWidget* dialog) {
         driver.expect([](QWidget* question) { answer(question, QMessageBox::No); });
-        typeName(dialog, QStringLiteral("taken"));
+        typePath(dialog, QStringLiteral("taken"));
         press(dialog, QDialogButtonBox::Save);
         QVERIFY(dialog->isVisible()); // another name may be typed
-        typeName(dialog, QStringLiteral("free"));
+        typePath(dialog, QStringLiteral("free"));
         press(dialog, QDialogButtonBox::Save);
     });
     QCOMPARE(XFileDialog::getSaveFileName(nullptr, QString(), m_directory.path(), csvFilter),
@@ -204,7 +192,7 @@ void tst_XFileDialog::replacesAFileOfAnotherDirectoryWhereItLies()
     file.close();
     ModalDriver driver;
     driver.expect([&existing](QWidget* dialog) {
-        typeName(dialog, existing);
+        typePath(dialog, existing);
         press(dialog, QDialogButtonBox::Save);
     });
     driver.expect([](QWidget* question) {
@@ -219,7 +207,7 @@ void tst_XFileDialog::opensAFile()
     touch(path(QStringLiteral("face.jpg")));
     ModalDriver driver;
     driver.expect([](QWidget* dialog) {
-        typeName(dialog, QStringLiteral("face.jpg"));
+        typePath(dialog, QStringLiteral("face.jpg"));
         QTest::keyClick(dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")), Qt::Key_Return);
     });
     QCOMPARE(XFileDialog::getOpenFileName(nullptr, QString(), m_directory.path(),
@@ -233,7 +221,7 @@ void tst_XFileDialog::picksADirectory()
     QVERIFY(QDir(m_directory.path()).mkdir(QStringLiteral("faces")));
     ModalDriver driver;
     driver.expect([](QWidget* dialog) {
-        typeName(dialog, QStringLiteral("faces"));
+        typePath(dialog, QStringLiteral("faces"));
         press(dialog, QDialogButtonBox::Open);
     });
     const QString chosen = XFileDialog::getExistingDirectory(
@@ -289,7 +277,7 @@ void tst_XFileDialog::givesTheChosenFilter()
 {
     ModalDriver driver;
     driver.expect([](QWidget* dialog) {
-        typeName(dialog, QStringLiteral("list"));
+        typePath(dialog, QStringLiteral("list"));
         press(dialog, QDialogButtonBox::Save);
     });
     QString filter = QStringLiteral("Text (*.txt)");

@@ -1,11 +1,11 @@
 #include "startup/StoreOpener.h"
 
+#include "FileChooser.h"
 #include "ModalDriver.h"
 
 #include <qarn_data/DataService.h>
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -93,11 +93,7 @@ void tst_StoreOpener::takesAnotherFile()
     const QString other = m_directory.filePath("other.db");
     ModalDriver driver;
     driver.expect([](QWidget* dialog) { press(dialog, "otherFileBt"); });
-    driver.expect([other](QWidget* dialog) {
-        auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
-        name->setText(other);
-        QTest::keyClick(name, Qt::Key_Return);
-    });
+    driver.expect([other](QWidget* dialog) { choosePath(dialog, other); });
     QCOMPARE(StoreOpener::open(damagedFile(), true), other);
     QCOMPARE(driver.pending(), 0);
 }

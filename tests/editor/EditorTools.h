@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FileChooser.h"
 #include "ModalDriver.h"
 
 #include <QFileInfo>
@@ -42,11 +43,7 @@ inline void expectAnswer(ModalDriver& modal, const char* button)
 /// Enters a path in the next file dialog.
 inline void expectFile(ModalDriver& modal, const QString& path)
 {
-    modal.expect([path](QWidget* window) {
-        auto* edit = child<QLineEdit>(window, "fileNameEdit");
-        edit->setText(path);
-        QTest::keyClick(edit, Qt::Key_Return);
-    });
+    modal.expect([path](QWidget* window) { choosePath(window, path); });
 }
 
 inline QString samplePath(const QString& relative)

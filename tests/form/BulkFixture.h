@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FileChooser.h"
 #include "PageFixture.h"
 
 #include <qarn_base/DisabledWaitingWt.h>
@@ -34,19 +35,9 @@ public:
     {
         driver.expect([name](QWidget* window) { press(window, name); });
     }
-    /// A host file dialog: types the path, or cancels without one.
-    void expectPath(const QString& path)
+    void expectPath(const QString& path) ///< as a host file dialog is answered; an empty one cancels
     {
-        driver.expect([path](QWidget* window) {
-            QCOMPARE(window->objectName(), QStringLiteral("XFileDialog"));
-            if (path.isEmpty()) {
-                QTest::keyClick(window, Qt::Key_Escape);
-                return;
-            }
-            auto* edit = window->findChild<QLineEdit*>("fileNameEdit");
-            edit->setText(path);
-            QTest::keyClick(edit, Qt::Key_Return);
-        });
+        driver.expect([path](QWidget* window) { choosePath(window, path); });
     }
     /// A message box: remembers its text and presses Ok.
     void expectNotice()

@@ -1,5 +1,5 @@
-#include "BulkFixture.h"
 #include "TestPictures.h"
+#include "TransferFixture.h"
 
 #include "query/PersonMgrWorker.h"
 
@@ -8,7 +8,6 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 
 using namespace qarn_personMgr;
 
@@ -17,16 +16,11 @@ class tst_ExportCommand : public QObject
 {
     Q_OBJECT
 private slots:
-    void init()
-    {
-        m_page = std::make_unique<BulkFixture>();
-        m_files = std::make_unique<QTemporaryDir>();
-    }
+    void init() { m_page = std::make_unique<TransferFixture>(); }
     void cleanup()
     {
         const int pending = m_page->driver.pending();
         m_page.reset();
-        m_files.reset();
         QCOMPARE(pending, 0);
     }
 
@@ -35,17 +29,16 @@ private slots:
     void exportsFaces();
     void exportsNothingWhenCancelled_data();
     void exportsNothingWhenCancelled();
+    void asksForTheTarget_data();
     void asksForTheTarget();
     void refusesAnEqualsSignInADirectory();
     void refusesATargetThatCannotBeUsed();
     void tellsThatAnExportFailed();
 
 private:
-    QString path(const char* name) const { return m_files->filePath(QLatin1String(name)); }
     void expectFaceExport();
 
-    std::unique_ptr<BulkFixture> m_page;
-    std::unique_ptr<QTemporaryDir> m_files;
+    std::unique_ptr<TransferFixture> m_page;
 };
 
 void tst_ExportCommand::expectFaceExport()
@@ -79,7 +72,7 @@ void tst_ExportCommand::exportsAPersonFile()
         window->findChild<QCheckBox*>("exportChildren")->setChecked(true);
         BulkFixture::press(window, "exportBt");
     });
-    m_page->expectPath(path("out.csv"));
+    m_page->expectPath(m_page->path("out.csv"));
     m_page->click("exportPersonsBt");
     QCOMPARE(title, QStringLiteral("Export Organization[East]Persons"));
     QVERIFY(m_page->overlay() != nullptr);
@@ -89,7 +82,7 @@ void tst_ExportCommand::exportsAPersonFile()
     QTRY_VERIFY(m_page->isIdle());
     QCOMPARE(answers.count(), 0);
 
-    QFile file(path("out.csv"));
+    QFile file(m_page->path("out.csv"));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray text = file.readAll();
     for (const char* serialNum : {"SE1", "SE2", "SE3", "SI1", "SI2"})
@@ -105,11 +98,11 @@ void tst_ExportCommand::exportsFaces()
     m_page->open();
     m_page->selectOrganization("east");
     expectFaceExport();
-    m_page->expectPath(m_files->path());
+    m_page->expectPath(m_page->directory());
     m_page->click("exportPersonsBt");
     QTRY_COMPARE(m_page->alertTexts(), QStringList("Export persons finished"));
     QTRY_VERIFY(m_page->isIdle());
-    const QStringList files = QDir(m_files->path()).entryList({"*.jpg"});
+    const QStringList files = QDir(m_page->directory()).entryList({"*.jpg"});
     QCOMPARE(files.count(), 1);
     QVERIFY2(files.first().contains("SP1") && files.first().contains("Ada"), qPrintable(files.first()));
 }
@@ -140,42 +133,49 @@ void tst_ExportCommand::exportsNothingWhenCancelled()
     QVERIFY(m_page->isIdle());
     QTest::qWait(1);
     QCOMPARE(m_page->alertTexts(), QStringList());
-    QVERIFY(QDir(m_files->path()).isEmpty());
+    QVERIFY(QDir(m_page->directory()).isEmpty());
+}
+
+void tst_ExportCommand::asksForTheTarget_data()
+{
+    QTest::addColumn<bool>("faces");
+    QTest::addColumn<QString>("caption");
+    QTest::newRow("a file") << false << "Export Persons";
+    QTest::newRow("a directory") << true << "Select Export Path";
 }
 
 void tst_ExportCommand::asksForTheTarget()
 {
+    QFETCH(bool, faces);
     const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
     QVERIFY(QDir().mkpath(desktop));
     m_page->open();
     m_page->selectOrganization("east");
-    for (bool faces : {false, true}) {
-        QVariantMap asked;
-        if (faces)
-            expectFaceExport();
-        else
-            m_page->expectPress("exportBt");
-        m_page->driver.expect([this, &asked](QWidget* window) {
-            const auto* dialog = qobject_cast<QFileDialog*>(window);
-            asked = {{"parent", dialog->parentWidget() == m_page->form},
-                     {"caption", dialog->windowTitle()},
-                     {"directory", dialog->directory().path()},
-                     {"directories only", dialog->testOption(QFileDialog::ShowDirsOnly)},
-                     {"symlinks kept", dialog->testOption(QFileDialog::DontResolveSymlinks)},
-                     {"saves", dialog->acceptMode() == QFileDialog::AcceptSave},
-                     {"filters", dialog->nameFilters()}};
-            QTest::keyClick(window, Qt::Key_Escape);
-        });
-        m_page->click("exportPersonsBt");
-        QCOMPARE(asked.value("parent").toBool(), true);
-        QCOMPARE(asked.value("caption").toString(), QString(faces ? "Select Export Path" : "Export Persons"));
-        QCOMPARE(asked.value("directory").toString(), desktop);
-        QCOMPARE(asked.value("directories only").toBool(), faces);
-        QCOMPARE(asked.value("symlinks kept").toBool(), faces);
-        QCOMPARE(asked.value("saves").toBool(), !faces);
-        if (!faces)
-            QCOMPARE(asked.value("filters").toStringList(), QStringList("CSV(*.csv)"));
-    }
+    if (faces)
+        expectFaceExport();
+    else
+        m_page->expectPress("exportBt");
+    QVariantMap asked;
+    m_page->driver.expect([this, &asked](QWidget* window) {
+        const auto* dialog = qobject_cast<QFileDialog*>(window);
+        asked = {{"parent", dialog->parentWidget() == m_page->form},
+                 {"caption", dialog->windowTitle()},
+                 {"directory", dialog->directory().path()},
+                 {"directories only", dialog->testOption(QFileDialog::ShowDirsOnly)},
+                 {"symlinks kept", dialog->testOption(QFileDialog::DontResolveSymlinks)},
+                 {"saves", dialog->acceptMode() == QFileDialog::AcceptSave},
+                 {"filters", dialog->nameFilters()}};
+        QTest::keyClick(window, Qt::Key_Escape);
+    });
+    m_page->click("exportPersonsBt");
+    QCOMPARE(asked.value("parent").toBool(), true);
+    QTEST(asked.value("caption").toString(), "caption");
+    QCOMPARE(asked.value("directory").toString(), desktop);
+    QCOMPARE(asked.value("directories only").toBool(), faces);
+    QCOMPARE(asked.value("symlinks kept").toBool(), faces);
+    QCOMPARE(asked.value("saves").toBool(), !faces);
+    if (!faces)
+        QCOMPARE(asked.value("filters").toStringList(), QStringList("CSV(*.csv)"));
 }
 
 void tst_ExportCommand::refusesAnEqualsSignInADirectory()
@@ -183,13 +183,13 @@ void tst_ExportCommand::refusesAnEqualsSignInADirectory()
     m_page->addPersons(2, "east");
     m_page->open();
     m_page->selectOrganization("east");
-    QVERIFY(QDir(m_files->path()).mkdir("a=b"));
+    QVERIFY(QDir(m_page->directory()).mkdir("a=b"));
     expectFaceExport();
-    m_page->expectPath(path("a=b"));
+    m_page->expectPath(m_page->path("a=b"));
     m_page->click("exportPersonsBt");
     QVERIFY(m_page->isIdle());
     QTRY_COMPARE(m_page->alertTexts(), QStringList("path cannot contain="));
-    QVERIFY(QDir(path("a=b")).isEmpty());
+    QVERIFY(QDir(m_page->path("a=b")).isEmpty());
 }
 
 void tst_ExportCommand::refusesATargetThatCannotBeUsed()

@@ -1,10 +1,9 @@
-#include "BulkFixture.h"
 #include "TestPictures.h"
+#include "TransferFixture.h"
 
 #include "query/PersonMgrWorker.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 
 using namespace qarn_personMgr;
 
@@ -13,16 +12,11 @@ class tst_ImportCommand : public QObject
 {
     Q_OBJECT
 private slots:
-    void init()
-    {
-        m_page = std::make_unique<BulkFixture>();
-        m_files = std::make_unique<QTemporaryDir>();
-    }
+    void init() { m_page = std::make_unique<TransferFixture>(); }
     void cleanup()
     {
         const int pending = m_page->driver.pending();
         m_page.reset();
-        m_files.reset();
         QCOMPARE(pending, 0);
     }
 
@@ -36,19 +30,17 @@ private slots:
     void waitsForAnImportWhenItGoes();
 
 private:
-    QString path(const char* name) const { return m_files->filePath(QLatin1String(name)); }
     QString write(const char* name, const QByteArray& bytes) const;
     QString personFile(int count, const char* prefix) const;
     void expectImport(const QString& path);
     void expectFaceImport(const QString& directory);
 
-    std::unique_ptr<BulkFixture> m_page;
-    std::unique_ptr<QTemporaryDir> m_files;
+    std::unique_ptr<TransferFixture> m_page;
 };
 
 QString tst_ImportCommand::write(const char* name, const QByteArray& bytes) const
 {
-    QFile file(path(name));
+    QFile file(m_page->path(name));
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
         qFatal("cannot write %s", qPrintable(file.fileName()));
     return file.fileName();
@@ -133,7 +125,7 @@ void tst_ImportCommand::leavesThePageAloneAfterAFailedImport()
     m_page->click("nextBt");
     const QStringList before = m_page->ids();
     QSignalSpy answers(&PersonMgrWorker::instance(), &PersonMgrWorker::signalCurPagePersons);
-    expectImport(path("no such file.csv"));
+    expectImport(m_page->path("no such file.csv"));
     m_page->click("importPersonsBt");
     QTRY_VERIFY(m_page->isIdle());
     QTRY_COMPARE(m_page->alertTexts().count(), 1);
@@ -149,7 +141,7 @@ void tst_ImportCommand::importsFaces()
     write("F2_Alan_Male.jpg", jpeg(Qt::blue));
     m_page->open();
     m_page->selectOrganization("west");
-    expectFaceImport(m_files->path());
+    expectFaceImport(m_page->directory());
     m_page->click("importPersonsBt");
     QTRY_VERIFY(m_page->isIdle());
     QCOMPARE(m_page->rows().count(), 2);
@@ -164,7 +156,7 @@ void tst_ImportCommand::asksForAnOrganizationToImportFacesTo()
 {
     write("F1_Grace_Female.jpg", jpeg(Qt::red));
     m_page->open();
-    expectFaceImport(m_files->path());
+    expectFaceImport(m_page->directory());
     m_page->click("importPersonsBt");
     QVERIFY(m_page->isIdle());
     QTRY_COMPARE(m_page->alertTexts(), QStringList("Please select which organization to import persons"));

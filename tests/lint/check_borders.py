@@ -23,7 +23,7 @@ WIDGET_HEADER = re.compile(
 NOT_A_WIDGET = {"QCoreApplication", "QGuiApplication"}
 QT_MODULE = re.compile(r"^Qt[A-Z]\w*/")
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
-CLASS_FOLDERS = ["entry", "query", "form", "tree", "table", "editor", "transfer", "sync"]
+CLASS_FOLDERS = ["entry", "shared", "query", "form", "tree", "table", "editor", "transfer", "sync"]
 
 
 def host_only_headers(root):

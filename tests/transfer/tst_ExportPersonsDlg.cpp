@@ -1,4 +1,4 @@
-#include "ModalDriver.h"
+#include "DialogParts.h"
 
 #include "transfer/ExportPersonsDlg.h"
 
@@ -6,13 +6,12 @@
 
 #include <QCheckBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
 #include <QTreeWidget>
-#include <QtTest>
 
+using dialogParts::part;
 using qarn_personMgr::ExportPersonsDlg;
 using qarn_worker::SystemAssistant;
 
@@ -21,15 +20,6 @@ namespace
 
 const char* const info = "personInfoTreeWt";
 const char* const face = "personFaceTreeWt";
-
-template <class T>
-T* part(const QWidget& dialog, const char* name)
-{
-    T* found = dialog.findChild<T*>(name);
-    if (found == nullptr)
-        qFatal("no %s", name);
-    return found;
-}
 
 QTreeWidgetItem* item(const QWidget& dialog, const char* tree, int position)
 {

@@ -1,16 +1,12 @@
-#include "ModalDriver.h"
+#include "DialogParts.h"
 #include "TransferFiles.h"
 
 #include "transfer/ImportPersonsDlg.h"
 
 #include <qarn_base/SelDirLineEt.h>
-#include <qarn_worker/SystemAssistant.h>
 
 #include <QCheckBox>
-#include <QFileDialog>
 #include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
@@ -18,8 +14,8 @@
 #include <QTemporaryDir>
 #include <QToolTip>
 
+using namespace dialogParts;
 using qarn_personMgr::ImportPersonsDlg;
-using qarn_worker::SystemAssistant;
 
 class tst_ImportPersonsDlg : public QObject
 {
@@ -39,60 +35,10 @@ private slots:
     void refusesWithoutPath();
     void refusesWithoutRule();
     void acceptsAndRejects();
-    void writesTheTemplate();
-    void tellsATemplateThatCannotBeWritten();
-    void writesNothingOnCancel();
-    void downloadsByKeyboard_data();
-    void downloadsByKeyboard();
 
 private:
     QTemporaryDir m_directory;
 };
-
-namespace
-{
-
-template <class T>
-T* part(const QWidget& dialog, const char* name)
-{
-    T* found = dialog.findChild<T*>(name);
-    if (found == nullptr)
-        qFatal("no %s", name);
-    return found;
-}
-
-void click(const QWidget& dialog, const char* name)
-{
-    QWidget* widget = part<QWidget>(dialog, name);
-    auto* button = qobject_cast<QAbstractButton*>(widget);
-    if (button != nullptr)
-        button->click();
-    else
-        QTest::mouseClick(widget, Qt::LeftButton);
-}
-
-QString text(const QWidget& dialog, const char* name)
-{
-    return part<QLineEdit>(dialog, name)->text();
-}
-
-/// Answers a file dialog with a path; an empty one cancels.
-ModalDriver::Action answer(const QString& path, QString* caption = nullptr)
-{
-    return [path, caption](QWidget* window) {
-        auto* dialog = qobject_cast<QFileDialog*>(window);
-        if (caption != nullptr)
-            *caption = window->windowTitle();
-        if (path.isEmpty()) {
-            dialog->reject();
-            return;
-        }
-        dialog->selectFile(path);
-        QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection); // it may ask something in turn
-    };
-}
-
-} // namespace
 
 void tst_ImportPersonsDlg::startsWithAPersonFile()
 {
@@ -305,76 +251,6 @@ void tst_ImportPersonsDlg::acceptsAndRejects()
     QCOMPARE(second.exec(), int(QDialog::Accepted));
     QCOMPARE(second.getPath(), file);
     QCOMPARE(driver.pending(), 0);
-}
-
-void tst_ImportPersonsDlg::writesTheTemplate()
-{
-    const QString file = transferFiles::write(m_directory.filePath("template.csv"), QByteArray(5000, 'x'));
-    ImportPersonsDlg dialog(nullptr);
-    dialog.show();
-    QSignalSpy alerts(&SystemAssistant::instance(), &SystemAssistant::signalMessageAlert);
-    ModalDriver driver;
-    QString caption;
-    driver.expect(answer(file, &caption));
-    driver.expect([](QWidget* question) { // the file is there already
-        auto* box = qobject_cast<QMessageBox*>(question);
-        QVERIFY(box != nullptr);
-        box->button(QMessageBox::Yes)->click();
-    });
-    click(dialog, "downloadTemplate");
-    QCOMPARE(caption, QString("Download Person import template"));
-    QCOMPARE(transferFiles::read(file), transferFiles::read(TRANSFER_TEST_DATA "/template.csv"));
-    QTRY_COMPARE(alerts.count(), 1);
-    QCOMPARE(alerts[0], (QVariantList{"Success", "Download import person template finished"}));
-    QVERIFY2(dialog.isVisible() && dialog.getPath().isEmpty(), "the dialog stays as it was");
-}
-
-void tst_ImportPersonsDlg::tellsATemplateThatCannotBeWritten()
-{
-    ImportPersonsDlg dialog(nullptr);
-    dialog.show();
-    QSignalSpy alerts(&SystemAssistant::instance(), &SystemAssistant::signalMessageAlert);
-    ModalDriver driver;
-    driver.expect(answer("/proc/template.csv"));
-    click(dialog, "downloadTemplate");
-    QTRY_COMPARE(alerts.count(), 1);
-    QCOMPARE(alerts[0], (QVariantList{"Error", "Download person import template failed"}));
-}
-
-void tst_ImportPersonsDlg::writesNothingOnCancel()
-{
-    ImportPersonsDlg dialog(nullptr);
-    dialog.show();
-    QSignalSpy alerts(&SystemAssistant::instance(), &SystemAssistant::signalMessageAlert);
-    ModalDriver driver;
-    driver.expect(answer(QString()));
-    click(dialog, "downloadTemplate");
-    QCOMPARE(driver.pending(), 0);
-    QCoreApplication::processEvents();
-    QCOMPARE(alerts.count(), 0);
-}
-
-void tst_ImportPersonsDlg::downloadsByKeyboard_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::newRow("Return") << int(Qt::Key_Return);
-    QTest::newRow("Space") << int(Qt::Key_Space);
-}
-
-void tst_ImportPersonsDlg::downloadsByKeyboard()
-{
-    QFETCH(int, key);
-    const QString file = m_directory.filePath("by_keyboard.csv");
-    QFile::remove(file);
-    ImportPersonsDlg dialog(nullptr);
-    dialog.show();
-    ModalDriver driver;
-    driver.expect(answer(file));
-    auto* link = part<QLabel>(dialog, "downloadTemplate");
-    QVERIFY(link->focusPolicy() & Qt::TabFocus);
-    QTest::keyClick(link, Qt::Key(key));
-    QVERIFY(QFile::exists(file));
-    QVERIFY2(!QToolTip::isVisible(), "the key does not press the import button too");
 }
 
 QTEST_MAIN(tst_ImportPersonsDlg)

@@ -48,6 +48,13 @@
     </message>
 </context>
 <context>
+    <name>BackupThread</name>
+    <message>
+        <source>The person register was backed up to %1</source>
+        <translation>Das Personenregister wurde in %1 gesichert</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDlg</name>
     <message>
         <source>Certificate of %1</source>
@@ -206,6 +213,10 @@
         <source>State</source>
         <translation>Zustand</translation>
     </message>
+    <message>
+        <source>Not a face device</source>
+        <translation>Kein Gesichtserkennungsgerät</translation>
+    </message>
 </context>
 <context>
     <name>DevicesPage</name>
@@ -338,6 +349,22 @@ Seine Kanäle können dann die Gesichter des Registers empfangen.</translation>
     <message>
         <source>Person register (*.db)</source>
         <translation>Personenregister (*.db)</translation>
+    </message>
+    <message>
+        <source>Back up...</source>
+        <translation>Sichern...</translation>
+    </message>
+    <message>
+        <source>Backup</source>
+        <translation>Sicherung</translation>
+    </message>
+    <message>
+        <source>Back up the person register</source>
+        <translation>Personenregister sichern</translation>
+    </message>
+    <message>
+        <source>Backing up...</source>
+        <translation>Sicherung läuft...</translation>
     </message>
 </context>
 <context>

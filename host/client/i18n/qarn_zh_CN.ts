@@ -48,6 +48,13 @@
     </message>
 </context>
 <context>
+    <name>BackupThread</name>
+    <message>
+        <source>The person register was backed up to %1</source>
+        <translation>人员库已备份到 %1</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDlg</name>
     <message>
         <source>Certificate of %1</source>
@@ -206,6 +213,10 @@
         <source>State</source>
         <translation>状态</translation>
     </message>
+    <message>
+        <source>Not a face device</source>
+        <translation>不是人脸设备</translation>
+    </message>
 </context>
 <context>
     <name>DevicesPage</name>
@@ -338,6 +349,22 @@ Its channels can then receive the faces of the register.</source>
     <message>
         <source>Person register (*.db)</source>
         <translation>人员库 (*.db)</translation>
+    </message>
+    <message>
+        <source>Back up...</source>
+        <translation>备份...</translation>
+    </message>
+    <message>
+        <source>Backup</source>
+        <translation>备份</translation>
+    </message>
+    <message>
+        <source>Back up the person register</source>
+        <translation>备份人员库</translation>
+    </message>
+    <message>
+        <source>Backing up...</source>
+        <translation>正在备份...</translation>
     </message>
 </context>
 <context>

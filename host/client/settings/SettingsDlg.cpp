@@ -1,17 +1,24 @@
 #include "settings/SettingsDlg.h"
 
+#include "settings/BackupThread.h"
 #include "settings/ClientSettings.h"
 #include "startup/Language.h"
 
 #include <XCOMMON/XFileDialog.h>
 #include <XCOMMON/XPushButton.h>
 #include <qarn_base/ComboBox.h>
+#include <qarn_base/DisabledWaitingWt.h>
+#include <qarn_base/DisabledWaitingWtManager.h>
 #include <qarn_base/SelDirLineEt.h>
 
+#include <QDate>
+#include <QDir>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPointer>
+#include <QStandardPaths>
 #include <QVBoxLayout>
 
 namespace
@@ -39,6 +46,15 @@ XCOMMON::XPushButton* makeButton(const char* name, const QString& text, const ch
     return button;
 }
 
+QString proposedBackup()
+{
+    QDir directory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    if (!directory.exists())
+        directory = QDir::home();
+    return directory.filePath(
+        QStringLiteral("persons-%1.db").arg(QDate::currentDate().toString(Qt::ISODate)));
+}
+
 } // namespace
 
 SettingsDlg::SettingsDlg(ClientSettings& settings, const QString& storePath, QWidget* parent)
@@ -47,17 +63,11 @@ SettingsDlg::SettingsDlg(ClientSettings& settings, const QString& storePath, QWi
 {
     setObjectName(QStringLiteral("SettingsDlg"));
     setTitle(tr("Settings"));
-    buildForm(storePath);
-
-    for (const Language& language : availableLanguages())
-        m_language->addItem(language.name, language.code);
-    m_language->setCurrentIndex(qMax(0, m_language->findData(settings.language())));
-    for (const int size : {20, 50, 100, 200})
-        m_pageSize->addItem(QString::number(size), size);
-    m_pageSize->setCurrentIndex(qMax(0, m_pageSize->findData(settings.pageSize())));
+    build();
+    fill(storePath);
 }
 
-void SettingsDlg::buildForm(const QString& storePath)
+void SettingsDlg::build()
 {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(32, TitleBarHeight + 24, 32, 20);
@@ -67,7 +77,16 @@ void SettingsDlg::buildForm(const QString& storePath)
     form->setHorizontalSpacing(20);
     form->setVerticalSpacing(12);
     column->addLayout(form);
+    buildFields(form);
+    auto* hint = new QLabel(tr("Language and person register take effect at the next start."), this);
+    hint->setObjectName(QStringLiteral("quietText"));
+    hint->setWordWrap(true);
+    column->addWidget(hint);
+    buildButtons(column);
+}
 
+void SettingsDlg::buildFields(QFormLayout* form)
+{
     m_language = makeCombo("language", tr("Language"), this);
     form->addRow(tr("Language"), m_language);
     m_pageSize = makeCombo("pageSize", tr("Rows a page"), this);
@@ -76,16 +95,16 @@ void SettingsDlg::buildForm(const QString& storePath)
     path->setObjectName(QStringLiteral("storePath"));
     path->setAccessibleName(tr("Person register"));
     path->setFixedSize(fieldWidth, fieldHeight);
-    path->setText(storePath);
     form->addRow(tr("Person register"), path);
     m_storePath = path;
     connect(path, &qarn_base::SelDirLineEt::signalClicked, this, &SettingsDlg::chooseStore);
+    auto* backup = makeButton("backupBt", tr("Back up..."), "common_bt_style2", this);
+    form->addRow(tr("Backup"), backup);
+    connect(backup, &QPushButton::clicked, this, &SettingsDlg::backUp);
+}
 
-    auto* hint = new QLabel(tr("Language and person register take effect at the next start."), this);
-    hint->setObjectName(QStringLiteral("quietText"));
-    hint->setWordWrap(true);
-    column->addWidget(hint);
-
+void SettingsDlg::buildButtons(QVBoxLayout* column)
+{
     auto* row = new QHBoxLayout;
     column->addLayout(row);
     row->setSpacing(15);
@@ -99,6 +118,17 @@ void SettingsDlg::buildForm(const QString& storePath)
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
+void SettingsDlg::fill(const QString& storePath)
+{
+    for (const Language& language : availableLanguages())
+        m_language->addItem(language.name, language.code);
+    m_language->setCurrentIndex(qMax(0, m_language->findData(m_settings.language())));
+    for (const int size : {20, 50, 100, 200})
+        m_pageSize->addItem(QString::number(size), size);
+    m_pageSize->setCurrentIndex(qMax(0, m_pageSize->findData(m_settings.pageSize())));
+    m_storePath->setText(storePath);
+}
+
 void SettingsDlg::chooseStore()
 {
     const QString path = XCOMMON::XFileDialog::getSaveFileName(
@@ -106,6 +136,23 @@ void SettingsDlg::chooseStore()
         tr("Person register (*.db)"), nullptr, QFileDialog::DontConfirmOverwrite);
     if (!path.isEmpty())
         m_storePath->setText(path);
+}
+
+void SettingsDlg::backUp()
+{
+    const QPointer<SettingsDlg> guard(this); // may go while the chooser is open
+    const QString path = XCOMMON::XFileDialog::getSaveFileName(
+        this, tr("Back up the person register"), proposedBackup(), tr("Person register (*.db)"));
+    if (guard.isNull() || path.isEmpty())
+        return;
+    auto* overlay = new qarn_base::DisabledWaitingWt(this, tr("Backing up..."), QString(), false);
+    overlay->show();
+    auto* thread = new BackupThread(path, this);
+    connect(thread, &QThread::finished, this, [thread, overlayId = overlay->getUuid()] {
+        qarn_base::DisabledWaitingWtManager::instance().destroyDisabledWaitingWt(overlayId);
+        thread->deleteLater();
+    });
+    thread->start();
 }
 
 int SettingsDlg::pageSize() const

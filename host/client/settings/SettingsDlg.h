@@ -4,10 +4,13 @@
 
 class ClientSettings;
 class QComboBox;
+class QFormLayout;
 class QLineEdit;
+class QVBoxLayout;
 
 /// Edits language ("language"), rows a page ("pageSize") and store ("storePath"). Ok writes the settings;
-/// language and store take effect at the next start, and the dialog says so.
+/// language and store take effect at the next start, and the dialog says so. "backupBt" copies the register
+/// that is open to a file.
 class SettingsDlg : public qarn_base::CommonDialog
 {
     Q_OBJECT
@@ -17,8 +20,12 @@ public:
     int pageSize() const; ///< the chosen rows a page
 
 private:
-    void buildForm(const QString& storePath);
+    void build();
+    void buildFields(QFormLayout* form);
+    void buildButtons(QVBoxLayout* column);
+    void fill(const QString& storePath);
     void chooseStore();
+    void backUp();
     void save();
 
     ClientSettings& m_settings;

@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QPointer>
 
+#include <memory>
 #include <utility>
 
 namespace qarn_personMgr
@@ -18,7 +19,7 @@ public:
     explicit ModalDialog(Args&&... args) : m_dialog(new Dialog(std::forward<Args>(args)...))
     {
     }
-    ~ModalDialog() { delete m_dialog.data(); }
+    ~ModalDialog() { const std::unique_ptr<Dialog> remaining(m_dialog.data()); }
     Q_DISABLE_COPY(ModalDialog)
 
     Dialog* operator->() const { return m_dialog; }

@@ -1,4 +1,4 @@
-#include "table/Photographs.h"
+#include "support/Photographs.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -6,6 +6,13 @@
 
 namespace qarn_bench
 {
+
+QByteArray encodeJpeg(const QImage& image, int quality)
+{
+    QBuffer buffer;
+    image.save(&buffer, "jpg", quality);
+    return buffer.data();
+}
 
 QByteArray photograph(quint32 seed, const QSize& size)
 {
@@ -22,9 +29,15 @@ QByteArray photograph(quint32 seed, const QSize& size)
         for (int x = 0; x < photo.width(); ++x)
             line[x] ^= random.generate() & 0x00070707;
     }
-    QBuffer buffer;
-    photo.save(&buffer, "jpg", 90);
-    return buffer.data();
+    return encodeJpeg(photo, 90);
+}
+
+QList<QByteArray> photographs(int count, const QSize& size)
+{
+    QList<QByteArray> all;
+    for (int i = 0; i < count; ++i)
+        all.append(photograph(quint32(i + 1), size));
+    return all;
 }
 
 QByteArray withComment(QByteArray jpeg, int number)
