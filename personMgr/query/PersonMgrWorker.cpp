@@ -108,7 +108,12 @@ bool PersonMgrWorker::showWhileReading(const PersonQueryCondition& condition)
 
 void PersonMgrWorker::showFirstPage(int pageSize)
 {
-    emit signalCurPagePersons(persons().mid(0, std::max(pageSize, 0)), 1, persons().count());
+    QList<PersonInfo> first;
+    int total = 0;
+    if (m_isPending && PersonData::instance().getFirstPersons(pageSize, &first, &total))
+        emit signalCurPagePersons(first, 1, total);
+    else
+        emit signalCurPagePersons(persons().mid(0, std::max(pageSize, 0)), 1, persons().count());
 }
 
 void PersonMgrWorker::gotoPage(int page, int pageSize)
