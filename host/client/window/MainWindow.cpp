@@ -8,6 +8,7 @@
 #include "settings/SettingsDlg.h"
 #include "startup/StoreOpener.h"
 #include "window/EdgeResizer.h"
+#include "window/PageListDelegate.h"
 #include "window/QuitGuard.h"
 #include "window/TitleBar.h"
 
@@ -29,7 +30,7 @@ namespace
 {
 
 constexpr int frameMargin = 1;
-constexpr int pageListWidth = 96;
+constexpr int pageListWidth = 66;
 constexpr QSize firstSize(1280, 760);
 
 } // namespace
@@ -66,6 +67,7 @@ void MainWindow::buildWindow()
     m_pageList = new QListWidget(this);
     m_pageList->setObjectName(QStringLiteral("pageList"));
     m_pageList->setAccessibleName(tr("Pages"));
+    m_pageList->setItemDelegate(new PageListDelegate(m_pageList));
     m_pages = new QStackedWidget(this);
     m_pages->setObjectName(QStringLiteral("pages"));
     m_splitter = new QSplitter(this);
