@@ -77,7 +77,7 @@ class MainJob(EndToEnd):
         client.click("searchBt")
         client.until(lambda: client.rows() == ["P0002"], "the person searched for")
         self.picture(client, "search")
-        client.click_at(client.widget("editBt", kind="QPushButton"))
+        client.click_at(client.widget("editBt", kind="RowButton"))
         client.fill("email", "tobias@register.example")
         self.picture(client, "edit-person")
         client.click("addBt")

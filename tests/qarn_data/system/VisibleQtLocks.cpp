@@ -101,6 +101,17 @@ bool QWaitCondition::wait(QMutex* mutex, unsigned long time)
     return woken;
 }
 
+// Of a lock that is held for reading: nobody waits with one for writing.
+bool QWaitCondition::wait(QReadWriteLock* lock, QDeadlineTimer deadline)
+{
+    static auto* const own = qtsOwn<bool(QWaitCondition*, QReadWriteLock*, QDeadlineTimer)>(
+        "_ZN14QWaitCondition4waitEP14QReadWriteLock14QDeadlineTimer");
+    tellUnlock(lock, ForReading);
+    const bool woken = own(this, lock, deadline);
+    tellLock(lock, ForReading);
+    return woken;
+}
+
 bool QWaitCondition::wait(QMutex* mutex, QDeadlineTimer deadline)
 {
     static auto* const own = qtsOwn<bool(QWaitCondition*, QMutex*, QDeadlineTimer)>(
