@@ -12,15 +12,12 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QLoggingCategory>
 
 namespace qarn_data
 {
 
 namespace
 {
-
-Q_LOGGING_CATEGORY(logData, "qarn.data")
 
 const QString memoryLocation = QStringLiteral(":memory:");
 constexpr int largestPage = 200; // persons
@@ -118,6 +115,7 @@ bool Register::load(const QString& location, const std::function<void()>& ahead,
         return false;
     }
     m_isBehind = false;
+    m_foreignFailure.clear();
     m_store->handOver();
     if (location != memoryLocation)
         m_checkpointer = std::make_unique<Checkpointer>(location);
@@ -193,18 +191,25 @@ Announcements Register::takeForeignChanges()
     Announcements announcements;
     if (!m_writing.tryLock())
         return announcements;
+    QString failure;
     if (m_store != nullptr) {
         m_store->takeOver();
         if (m_store->hasForeignChanges())
             m_isBehind = true;
-        if (m_isBehind && m_store->beginRead()) {
-            if (!catchUp(announcements))
-                qCWarning(logData) << "reading other processes' changes:" << m_store->cause();
+        if (m_isBehind) {
+            if (!m_store->beginRead() || !catchUp(announcements))
+                failure = m_store->cause();
             m_store->rollback();
         }
         m_store->handOver();
     }
+    const bool isNew = failure != m_foreignFailure;
+    m_foreignFailure = failure;
     m_writing.unlock();
+    if (isNew && !failure.isEmpty())
+        announcements.append([failure] {
+            tellFailure(tr("What others change in the register cannot be shown. %1").arg(failure));
+        });
     return announcements;
 }
 

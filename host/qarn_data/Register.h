@@ -61,7 +61,7 @@ public:
     bool readFirstPersons(int count, PersonList* persons, int* total) const;
 
     /// What other processes changed since the last look, already entered. Comes back at once while a write
-    /// is under way, which takes these changes in itself.
+    /// is under way, which takes these changes in itself. A failure to read them is told once.
     Announcements takeForeignChanges();
 
 private:
@@ -88,7 +88,8 @@ private:
     QMutex m_writing; ///< of everything below
     std::unique_ptr<SqlStore> m_store;
     std::unique_ptr<Checkpointer> m_checkpointer;
-    bool m_isBehind = false; ///< others have changed something that is not entered yet
+    bool m_isBehind = false;  ///< others have changed something that is not entered yet
+    QString m_foreignFailure; ///< why that cannot be read, as last told
 };
 
 } // namespace qarn_data

@@ -1018,6 +1018,10 @@ Seine Kanäle können dann die Gesichter des Registers empfangen.</translation>
         <source>The backup %1 cannot be made. %2</source>
         <translation>Die Sicherung %1 kann nicht angelegt werden. %2</translation>
     </message>
+    <message>
+        <source>What others change in the register cannot be shown. %1</source>
+        <translation>Was andere im Register ändern, kann nicht angezeigt werden. %1</translation>
+    </message>
 </context>
 <context>
     <name>qarn_data::SqlStore</name>

@@ -1018,6 +1018,10 @@ Its channels can then receive the faces of the register.</source>
         <source>The backup %1 cannot be made. %2</source>
         <translation>无法创建备份 %1。%2</translation>
     </message>
+    <message>
+        <source>What others change in the register cannot be shown. %1</source>
+        <translation>无法显示他人对人员库所做的更改。%1</translation>
+    </message>
 </context>
 <context>
     <name>qarn_data::SqlStore</name>

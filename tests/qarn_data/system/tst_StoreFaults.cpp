@@ -15,6 +15,7 @@
 
 using qarn_data::DataService;
 using qarn_data::PersonData;
+using qarn_data::PersonInfo;
 
 using Spoil = std::function<void(StoreFolder&)>;
 Q_DECLARE_METATYPE(Spoil)
@@ -42,6 +43,7 @@ private slots:
     void refusesWithoutTouching();
     void isUsableAfterARefusal();
     void survivesScribbledPages();
+    void tellsOnceThatOthersChangesCannotBeRead();
 };
 
 void tst_StoreFaults::refusesWithoutTouching_data()
@@ -134,6 +136,27 @@ void tst_StoreFaults::survivesScribbledPages()
                  qPrintable(answer["error"].toString()));
         QVERIFY2(folder.read() == bytes, qPrintable(answer["error"].toString()));
     }
+}
+
+void tst_StoreFaults::tellsOnceThatOthersChangesCannotBeRead()
+{
+    StoreFolder folder;
+    folder.makeStore(3);
+    QVERIFY(DataService::instance().open(folder.storePath()));
+    QSignalSpy failed(&DataService::instance(), &DataService::signalFailed);
+    folder.runSql("ALTER TABLE change_log RENAME TO lost");
+    QTRY_COMPARE(failed.count(), 1);
+    QVERIFY2(failed.first().first().toString().contains("change_log"),
+             qPrintable(failed.first().first().toString()));
+    folder.runSql("UPDATE persons SET remarks = 'x'");
+    QTest::qWait(700); // two more looks
+    QCOMPARE(failed.count(), 1);
+    QCOMPARE(PersonData::instance().getAllPersons(false).count(), 3);
+
+    folder.runSql("ALTER TABLE lost RENAME TO change_log");
+    QTRY_VERIFY(PersonData::instance().addPerson(PersonInfo()) || failed.count() > 1);
+    QCOMPARE(failed.count(), 1);
+    DataService::instance().close();
 }
 
 QTEST_GUILESS_MAIN(tst_StoreFaults)
