@@ -1,5 +1,6 @@
 #include "client/SiteSteps.h"
 
+#include "client/ClientStart.h"
 #include "client/LargeSite.h"
 #include "form/PersonMgrForm.h"
 #include "query/PersonMgrWorker.h"
@@ -14,7 +15,6 @@
 #include <qarn_data/PersonData.h>
 
 #include <QLabel>
-#include <QProcess>
 
 using qarn_data::PersonData;
 using qarn_data::PersonInfo;
@@ -28,20 +28,6 @@ namespace
 {
 
 constexpr int PageSize = 50;
-
-double startClient(const QString& store)
-{
-    return milliseconds([&] {
-        QProcess client;
-        client.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        client.setStandardOutputFile(QProcess::nullDevice()); // ours is for the figures
-        client.start(QStringLiteral(QARN_CLIENT),
-                     {QStringLiteral("--self-test"), QStringLiteral("--store"), store});
-        if (!client.waitForFinished(-1) || client.exitStatus() != QProcess::NormalExit ||
-            client.exitCode() != 0)
-            qFatal("the client's self-test fails");
-    });
-}
 
 bool showsFace(const qarn_personMgr::PersonInfoWt& row)
 {
@@ -81,7 +67,7 @@ int measureStart(const StoreFiles& files, const QString& store)
     Figure figure{"at_size_start_ms"};
     figure.limit = 2.5;
     measureAlternately(
-        figure, Rounds, [&] { return startClient(store); }, [&] { return startClient(empty); });
+        figure, Rounds, [&] { return untilFirstPage(store); }, [&] { return untilFirstPage(empty); });
     return report(figure);
 }
 

@@ -90,6 +90,25 @@ void requireSent(const PersonList& persons, const QString& deviceFile)
     }
 }
 
+void requireImported(const QString& personFile, int serialNums)
+{
+    const QSet<QString> held = PersonData::instance().getAllPersonsSerialNum();
+    if (held.count() != serialNums || !held.contains(serialNumsIn(personFile, personTableTitleLines, 9)))
+        qFatal("the store holds %d serial numbers after the import", int(held.count()));
+}
+
+QStringList deviceOptions(const QString& file)
+{
+    return {QStringLiteral("--channels"), QString::number(Channels), QStringLiteral("--data"), file};
+}
+
+double sendTo(const QString& deviceFile, const PersonList& persons)
+{
+    SimulatedDevice device(deviceOptions(deviceFile));
+    device.addToRegistry();
+    return pushAll(persons, {{device.id(), 1}, {device.id(), 2}});
+}
+
 } // namespace
 
 int measureExport(const StoreFiles& files)
@@ -115,49 +134,62 @@ int measureExport(const StoreFiles& files)
 
 int measureImport(const StoreFiles& files)
 {
+    constexpr int Rounds = 3;
     const QString known = files.path(QStringLiteral("known.csv"));
-    const QString table = files.path(QStringLiteral("new.csv"));
     const QString plain = files.path(QStringLiteral("import.db"));
+    const auto newPersons = [&files](int round) { // other ones each time
+        const QString path = files.path(QStringLiteral("new%1.csv").arg(round));
+        writePersonTable(path, Imported, LargeSite::Persons + round * Imported);
+        return path;
+    };
+    const SqliteConnection connection = makePlainTable(plain);
     writePersonTable(known, LargeSite::Persons);
-    writePersonTable(table, Imported, LargeSite::Persons);
-    { // the peer holds as many persons as we do
-        const SqliteConnection connection = makePlainTable(plain);
-        fillPlainTable(plain, known);
-    }
+    fillPlainTable(plain, known); // the peer holds as many persons as we do
+    execute(connection.get(), "PRAGMA wal_checkpoint(TRUNCATE)");
+    int ours = 0;
+    int peers = 0;
     Figure figure{"at_size_import_10000_ms"};
     figure.limit = 4;
-    figure.ours = milliseconds([&] { importPersons(table); });
-    const QSet<QString> imported = serialNumsIn(table, personTableTitleLines, 9);
-    const QSet<QString> held = PersonData::instance().getAllPersonsSerialNum();
-    if (!held.contains(imported) || held.count() != LargeSite::Persons + Imported)
-        qFatal("the store holds %d serial numbers", int(held.count()));
-    const SqliteConnection connection = openSqlite(plain);
-    figure.peer = fillPlainTable(plain, table);
-    if (touchAll(prepare(connection.get(), "SELECT 1 FROM persons").get()) != LargeSite::Persons + Imported)
-        qFatal("the peer did not import all persons");
+    measureAlternately(
+        figure, Rounds,
+        [&] {
+            const QString table = newPersons(ours++);
+            const double time = milliseconds([&] { importPersons(table); });
+            requireImported(table, LargeSite::Persons + ours * Imported);
+            return time;
+        },
+        [&] { return fillPlainTable(plain, newPersons(peers++)); });
+    const qint64 rows = touchAll(prepare(connection.get(), "SELECT 1 FROM persons").get());
+    if (rows != LargeSite::Persons + Rounds * Imported)
+        qFatal("the peer holds %d persons", int(rows));
     return report(figure);
 }
 
 int measureSend(const StoreFiles& files)
 {
+    constexpr int Rounds = 3;
     const PersonList persons = firstWithFaces(Sent);
     const QList<QByteArray> bodies = bodiesOf(persons);
-    const auto options = [&files](const QString& name) {
-        return QStringList{QStringLiteral("--channels"), QString::number(Channels), QStringLiteral("--data"),
-                           files.path(name)};
-    };
+    int devices = 0;
+    const auto newDevice = [&] { return files.path(QStringLiteral("device%1.jsonl").arg(devices++)); };
     Figure figure{"at_size_send_1000_to_2_ms"};
     figure.limit = 1.3;
-    {
-        SimulatedDevice device(options(QStringLiteral("device.jsonl")));
-        device.addToRegistry();
-        figure.ours = pushAll(persons, {{device.id(), 1}, {device.id(), 2}});
-    }
-    requireSent(persons, files.path(QStringLiteral("device.jsonl")));
-    for (int channel = 1; channel <= Channels; ++channel) {
-        const SimulatedDevice device(options(QStringLiteral("peer%1.jsonl").arg(channel)));
-        figure.peer += postAll(device.address(), bodies);
-    }
+    measureAlternately(
+        figure, Rounds,
+        [&] {
+            const QString file = newDevice();
+            const double time = sendTo(file, persons);
+            requireSent(persons, file);
+            return time;
+        },
+        [&] {
+            double time = 0;
+            for (int channel = 1; channel <= Channels; ++channel) {
+                const SimulatedDevice device(deviceOptions(newDevice()));
+                time += postAll(device.address(), bodies);
+            }
+            return time;
+        });
     return report(figure);
 }
 

@@ -1,7 +1,6 @@
 #include <qarn_base/AbilityDevsTree.h>
 
-#include "HostColors.h"
-
+#include <qarn_base/HostColors.h>
 #include <qarn_base/TreeItem.h>
 #include <qarn_data/DeviceRegistry.h>
 

@@ -1,6 +1,6 @@
 #include "BusyIndicator.h"
 
-#include "HostColors.h"
+#include <qarn_base/HostColors.h>
 
 #include <QPainter>
 #include <QTimerEvent>

@@ -2,10 +2,10 @@
 
 #include "DatetimeSpanRules.h"
 #include "DialogButtons.h"
-#include "HostColors.h"
 #include "ReasonLabel.h"
 
 #include <XCOMMON/XPushButton.h>
+#include <qarn_base/HostColors.h>
 
 #include <QDateTimeEdit>
 #include <QGridLayout>

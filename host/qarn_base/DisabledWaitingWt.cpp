@@ -1,10 +1,10 @@
 #include <qarn_base/DisabledWaitingWt.h>
 
 #include "BusyIndicator.h"
-#include "HostColors.h"
 #include "InputBlocker.h"
 
 #include <qarn_base/DisabledWaitingWtManager.h>
+#include <qarn_base/HostColors.h>
 
 #include <QKeyEvent>
 #include <QLabel>

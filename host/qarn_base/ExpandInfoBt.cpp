@@ -1,6 +1,6 @@
 #include <qarn_base/ExpandInfoBt.h>
 
-#include "HostColors.h"
+#include <qarn_base/HostColors.h>
 
 #include <QPainter>
 #include <QPainterPath>

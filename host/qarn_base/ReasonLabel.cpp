@@ -1,6 +1,6 @@
 #include "ReasonLabel.h"
 
-#include "HostColors.h"
+#include <qarn_base/HostColors.h>
 
 #include <QAccessible>
 

@@ -1,6 +1,6 @@
 #include <qarn_base/TableOperWt.h>
 
-#include "HostColors.h"
+#include <qarn_base/HostColors.h>
 
 #include <QPainter>
 

@@ -1,7 +1,8 @@
 #include "TitleBar.h"
 
-#include "HostColors.h"
 #include "PlainToolTip.h"
+
+#include <qarn_base/HostColors.h>
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,6 +1,6 @@
 #include "TreeItemDelegate.h"
 
-#include "HostColors.h"
+#include <qarn_base/HostColors.h>
 
 #include <QAbstractItemView>
 #include <QApplication>

@@ -229,10 +229,15 @@ void tst_DisabledWaitingWt::twoOverlaysGetAlong()
 
 void tst_DisabledWaitingWt::survivesTheEndOfItsParent()
 {
-    const QUuid uuid = cover()->getUuid();
+    const QPointer<DisabledWaitingWt> overlay = cover();
+    const QUuid uuid = overlay->getUuid();
     m_window.reset();
+    QVERIFY(overlay.isNull());
+    init();
+    DisabledWaitingWt* next = cover();
     DisabledWaitingWtManager::instance().destroyDisabledWaitingWt(uuid);
     QCoreApplication::processEvents();
+    QVERIFY2(next->isVisible(), "the identity of one that has gone stands for no other");
 }
 
 void tst_DisabledWaitingWt::managerForgetsWhatIsGone()

@@ -31,7 +31,8 @@ private slots:
     void whatWasFoundStaysInSight();
     void newAndRenamedItemsObey();
     void nothingFound();
-    void treeOrBoxMayGoFirst();
+    void treeMayGoFirst();
+    void boxMayGoFirst();
     void fiveThousandItems();
     void cleanupTestCase();
 
@@ -232,15 +233,26 @@ void tst_SearchTreeTools::nothingFound()
     QCOMPARE(shown(), (QStringList{"Root", "Sales", "Research Lab"}));
 }
 
-void tst_SearchTreeTools::treeOrBoxMayGoFirst()
+void tst_SearchTreeTools::treeMayGoFirst()
 {
     type(QStringLiteral("lab"));
     m_tree.reset();
     type(QStringLiteral("x"));
     QTest::keyClick(m_edit, Qt::Key_Return);
+    QVERIFY(m_edit->text().endsWith(QLatin1Char('x')));
     clear();
+    QCOMPARE(m_edit->text(), QString());
+}
+
+void tst_SearchTreeTools::boxMayGoFirst()
+{
+    type(QStringLiteral("lab"));
+    const QStringList found = shown();
     m_box.reset();
     QCoreApplication::processEvents();
+    QCOMPARE(shown(), found);
+    m_tree->setCurSelItem(item(QStringLiteral("old lab")));
+    QCOMPARE(selected(), QStringLiteral("old lab"));
 }
 
 void tst_SearchTreeTools::fiveThousandItems()

@@ -1,5 +1,7 @@
 #include "style/Palette.h"
 
+#include <qarn_base/HostColors.h>
+
 #include <QRegularExpression>
 
 #include <array>
@@ -10,30 +12,51 @@ namespace palette
 namespace
 {
 
+namespace colors = qarn_base::colors;
+
 struct Entry {
     const char* name;
-    QRgb value;
+    QColor value;
 };
 
 // In the order of Name.
 constexpr std::array<Entry, ScrollHover + 1> entries = {{
-    {"window", 0xff0b121e},       {"panel", 0xff141f30},         {"dialog", 0xff172335},
-    {"input", 0xff0e1622},        {"strip", 0xff0f1526},         {"line", 0xff213147},
-    {"border", 0xff34496b},       {"hover", 0xff213147},         {"selected", 0xff293a56},
-    {"text", 0xffccd3dd},         {"quiet", 0xff9aa5b5},         {"faint", 0xff6c7586},
-    {"white", 0xffffffff},        {"accent", 0xff2c7dce},        {"accentFill", 0xff2672c0},
-    {"accentHover", 0xff2a78c8},  {"accentPressed", 0xff1d5fa5}, {"button", 0xff22324c},
-    {"buttonHover", 0xff2d4264},  {"buttonPressed", 0xff1b2940}, {"link", 0xff5aa5ee},
-    {"error", 0xffdc4d4d},        {"errorFill", 0xffb83c3c},     {"errorText", 0xfff07070},
-    {"warning", 0xffe5b454},      {"success", 0xff5cc28a},       {"scrollTrack", 0xff172335},
-    {"scrollHandle", 0xff2b3c5b}, {"scrollHover", 0xff344d6f},
+    {"window", colors::Window},
+    {"panel", colors::Panel},
+    {"dialog", colors::TitleBar},
+    {"input", QColor(0x0e, 0x16, 0x22)},
+    {"strip", QColor(0x0f, 0x15, 0x26)},
+    {"line", colors::Line},
+    {"border", colors::Border},
+    {"hover", colors::Hover},
+    {"selected", colors::Selected},
+    {"text", colors::Text},
+    {"quiet", colors::QuietText},
+    {"faint", QColor(0x6c, 0x75, 0x86)},
+    {"white", QColor(0xff, 0xff, 0xff)},
+    {"accent", colors::Accent},
+    {"accentFill", QColor(0x26, 0x72, 0xc0)},
+    {"accentHover", QColor(0x2a, 0x78, 0xc8)},
+    {"accentPressed", QColor(0x1d, 0x5f, 0xa5)},
+    {"button", QColor(0x22, 0x32, 0x4c)},
+    {"buttonHover", QColor(0x2d, 0x42, 0x64)},
+    {"buttonPressed", QColor(0x1b, 0x29, 0x40)},
+    {"link", QColor(0x5a, 0xa5, 0xee)},
+    {"error", colors::Error},
+    {"errorFill", QColor(0xb8, 0x3c, 0x3c)},
+    {"errorText", colors::ErrorText},
+    {"warning", QColor(0xe5, 0xb4, 0x54)},
+    {"success", QColor(0x5c, 0xc2, 0x8a)},
+    {"scrollTrack", QColor(0x17, 0x23, 0x35)},
+    {"scrollHandle", QColor(0x2b, 0x3c, 0x5b)},
+    {"scrollHover", QColor(0x34, 0x4d, 0x6f)},
 }};
 
 QString colorName(const QString& name)
 {
     for (const Entry& entry : entries) {
         if (name == QLatin1String(entry.name))
-            return QColor(entry.value).name();
+            return entry.value.name();
     }
     qFatal("the style sheet names an unknown colour: %s", qPrintable(name));
 }
@@ -42,7 +65,7 @@ QString colorName(const QString& name)
 
 QColor color(Name name)
 {
-    return QColor(entries.at(static_cast<std::size_t>(name)).value);
+    return entries.at(static_cast<std::size_t>(name)).value;
 }
 
 QString resolve(const QString& styleSheet)
