@@ -13,7 +13,7 @@ bool isUsable(const QUrl& address, const QString& token)
                        [](QChar c) { return c.unicode() > 0x20 && c.unicode() < 0x7f; });
 }
 
-QByteArray toWire(const HttpRequest& request, const QUrl& address, const QString& token)
+void appendWire(QByteArray& wire, const HttpRequest& request, const QUrl& address, const QString& token)
 {
     QByteArray base = address.path(QUrl::FullyEncoded).toLatin1();
     while (base.endsWith('/'))
@@ -24,8 +24,7 @@ QByteArray toWire(const HttpRequest& request, const QUrl& address, const QString
     if (address.port() > 0)
         host += ':' + QByteArray::number(address.port());
 
-    QByteArray wire;
-    wire.reserve(request.body.size() + 1024);
+    wire.reserve(wire.size() + request.body.size() + 1024);
     wire += request.method + ' ' + base + request.path + " HTTP/1.1\r\nHost: " + host + "\r\n";
     if (!token.isEmpty())
         wire += "Authorization: Bearer " + token.toLatin1() + "\r\n";
@@ -35,7 +34,8 @@ QByteArray toWire(const HttpRequest& request, const QUrl& address, const QString
     if (!request.body.isEmpty())
         wire += QByteArray("Content-Type: ") + ScimMediaType +
                 "\r\nContent-Length: " + QByteArray::number(request.body.size()) + "\r\n";
-    return wire += "\r\n" + request.body;
+    wire += "\r\n";
+    wire += request.body; // by far the largest part: copied once
 }
 
 } // namespace dvx_sdk

@@ -32,7 +32,7 @@ struct HttpResult {
 /// Whether requests can be made of this address and token: http(s), a host, nothing that breaks a header.
 bool isUsable(const QUrl& address, const QString& token);
 
-/// The request as bytes for the wire.
-QByteArray toWire(const HttpRequest& request, const QUrl& address, const QString& token);
+/// Appends the request as bytes for the wire.
+void appendWire(QByteArray& wire, const HttpRequest& request, const QUrl& address, const QString& token);
 
 } // namespace dvx_sdk

@@ -1,6 +1,7 @@
 #include "HttpResponseParser.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace dvx_sdk
 {
@@ -13,15 +14,20 @@ constexpr int MaxChunkDigits = 15;
 
 } // namespace
 
-HttpResponseParser::HttpResponseParser(qint64 bodyLimit) : m_bodyLimit(bodyLimit) {}
-
-void HttpResponseParser::feed(const QByteArray& bytes)
+HttpResponseParser::HttpResponseParser(qint64 bodyLimit, QByteArray space)
+    : m_bodyLimit(bodyLimit),
+      m_body(std::move(space))
 {
-    m_input += bytes;
+}
+
+void HttpResponseParser::feed(const char* bytes, qint64 count)
+{
+    m_input = {bytes, static_cast<std::size_t>(count)};
     while (!isDone() && !isBroken() && step()) {
     }
-    if (isDone() && !m_input.isEmpty())
+    if (isDone() && !m_input.empty())
         m_keepAlive = false; // more than was asked for: the next answer could not be told apart
+    m_input = {};
 }
 
 void HttpResponseParser::finish()
@@ -37,7 +43,7 @@ void HttpResponseParser::finish()
 bool HttpResponseParser::step()
 {
     if (m_state == State::Length || m_state == State::Chunk || m_state == State::UntilClose)
-        return takeBody();
+        return readBody();
     QByteArray line;
     if (!takeLine(line))
         return false;
@@ -58,19 +64,21 @@ bool HttpResponseParser::step()
 
 bool HttpResponseParser::takeLine(QByteArray& line)
 {
-    const int end = m_input.indexOf('\n');
-    const qint64 length = end < 0 ? m_input.size() : end + 1;
-    if (m_headBytes + length > MaxHeadBytes) {
+    const std::size_t end = m_input.find('\n');
+    const bool whole = end != std::string_view::npos;
+    const std::string_view piece = m_input.substr(0, whole ? end + 1 : end);
+    m_headBytes += static_cast<qint64>(piece.size());
+    if (m_headBytes > MaxHeadBytes) {
         m_state = State::Broken;
         return false;
     }
-    if (end < 0)
+    m_line.append(piece.data(), static_cast<int>(piece.size()));
+    m_input.remove_prefix(piece.size());
+    if (!whole)
         return false;
-    m_headBytes += length;
-    line = m_input.left(end);
-    m_input.remove(0, end + 1);
-    if (line.endsWith('\r'))
-        line.chop(1);
+    m_line.chop(m_line.endsWith("\r\n") ? 2 : 1);
+    line = std::move(m_line);
+    m_line.clear();
     return true;
 }
 
@@ -145,20 +153,18 @@ void HttpResponseParser::readChunkHead(const QByteArray& line)
     limitBody(m_remaining);
 }
 
-bool HttpResponseParser::takeBody()
+bool HttpResponseParser::readBody()
 {
-    if (m_input.isEmpty())
+    if (m_input.empty())
         return false;
     const bool counted = m_state != State::UntilClose;
-    const qint64 count = counted ? std::min<qint64>(m_remaining, m_input.size()) : m_input.size();
+    const auto available = static_cast<qint64>(m_input.size());
+    const qint64 count = counted ? std::min(m_remaining, available) : available;
     limitBody(count);
     if (isBroken())
         return false;
-    m_body.append(m_input.constData(), static_cast<int>(count));
-    if (count == m_input.size())
-        m_input.clear();
-    else
-        m_input.remove(0, static_cast<int>(count));
+    m_body.append(m_input.data(), static_cast<int>(count));
+    m_input.remove_prefix(static_cast<std::size_t>(count));
     m_remaining -= counted ? count : 0;
     if (counted && m_remaining == 0) {
         if (m_state == State::Chunk)

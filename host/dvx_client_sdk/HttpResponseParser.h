@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QMap>
 
+#include <string_view>
+
 namespace dvx_sdk
 {
 
@@ -10,9 +12,11 @@ namespace dvx_sdk
 class HttpResponseParser
 {
 public:
-    explicit HttpResponseParser(qint64 bodyLimit);
+    /// `space` is an empty array with memory for the body.
+    explicit HttpResponseParser(qint64 bodyLimit, QByteArray space = {});
 
-    void feed(const QByteArray& bytes);
+    void feed(const char* bytes, qint64 count);
+    void feed(const QByteArray& bytes) { feed(bytes.constData(), bytes.size()); }
     void finish(); ///< the connection was closed
 
     bool isDone() const { return m_state == State::Done; }
@@ -20,6 +24,7 @@ public:
     int status() const { return m_status; }
     QByteArray header(const QByteArray& lowerCaseName) const { return m_headers.value(lowerCaseName); }
     const QByteArray& body() const { return m_body; }
+    QByteArray takeBody() { return std::move(m_body); }
     /// Whether the connection can carry another request. Only when done.
     bool canKeepAlive() const { return m_keepAlive; }
 
@@ -32,7 +37,7 @@ private:
     void readHeader(const QByteArray& line);
     void endHead();
     void readChunkHead(const QByteArray& line);
-    bool takeBody();
+    bool readBody();
     void limitBody(qint64 more);
     void end();
 
@@ -44,7 +49,8 @@ private:
     bool m_oldProtocol = false;
     bool m_keepAlive = false;
     QMap<QByteArray, QByteArray> m_headers;
-    QByteArray m_input;
+    std::string_view m_input; ///< not read yet, of the bytes being fed
+    QByteArray m_line;        ///< begun in the pieces before
     QByteArray m_body;
 };
 
