@@ -8,8 +8,6 @@
 #include <QSslError>
 #include <QSslSocket>
 
-#include <array>
-
 namespace dvx_sdk
 {
 
@@ -18,7 +16,7 @@ namespace
 
 constexpr int ConnectTimeoutMs = 5000;
 constexpr int IdleTimeoutMs = 2000; ///< shorter than servers wait: a close must not meet a request
-constexpr int ReadBytes = 64 * 1024;
+constexpr int ReadBufferBytes = 64 * 1024;
 constexpr int KeptBytes = 256 * 1024; ///< memory that is kept from one request to the next
 constexpr int HttpPort = 80;
 constexpr int HttpsPort = 443;
@@ -39,7 +37,7 @@ HttpConnection::HttpConnection(const QUrl& address, const QString& token, const 
                                QObject* parent)
     : QObject(parent),
       m_address(address),
-      m_token(token),
+      m_requestHead(address, token),
       m_pin(pinnedCertificate)
 {
     m_connectTimer.setSingleShot(true);
@@ -86,7 +84,7 @@ void HttpConnection::createSocket()
         connect(m_socket.get(), &QTcpSocket::connected, this, &HttpConnection::slotConnected);
     }
     m_socket->setProxy(QNetworkProxy::NoProxy); // devices stand in the local network
-    m_socket->setReadBufferSize(ReadBytes);
+    m_socket->setReadBufferSize(ReadBufferBytes);
     connect(m_socket.get(), &QTcpSocket::readyRead, this, &HttpConnection::slotReadyRead);
     // Queued: an error may come inside connectToHost().
     connect(m_socket.get(), &QTcpSocket::errorOccurred, this, &HttpConnection::slotError,
@@ -147,7 +145,7 @@ bool HttpConnection::isPinned() const
 
 void HttpConnection::write()
 {
-    appendWire(m_wire, m_request, m_address, m_token);
+    m_requestHead.appendWire(m_wire, m_request);
     const bool written = m_socket->write(m_wire) == m_wire.size();
     m_wire = emptied(std::move(m_wire));
     if (!written) // which the socket does not report by its signal
@@ -158,20 +156,17 @@ void HttpConnection::slotReadyRead()
 {
     if (!isBusy())
         return close(); // nothing was asked
-    std::array<char, ReadBytes> bytes;
-    qint64 count = ReadBytes;
-    while (count == ReadBytes && !m_parser->isDone() && !m_parser->isBroken()) {
-        count = m_socket->read(bytes.data(), ReadBytes);
-        if (count < 0) // which the socket does not report by its signal
+    while (!m_parser->isDone() && !m_parser->isBroken()) {
+        const qint64 count = m_parser->feedFrom(*m_socket);
+        if (count < 0) // closed, which the socket does not report by its signal
             return endAnswer();
         if (count == 0)
             return;
         m_answered = true;
-        m_parser->feed(bytes.data(), count);
     }
     if (m_parser->isDone())
         succeed();
-    else if (m_parser->isBroken())
+    else
         fail(BadAnswer);
 }
 

@@ -52,7 +52,7 @@ private:
     bool isTls() const { return m_address.scheme() == QLatin1String("https"); }
 
     const QUrl m_address;
-    const QString m_token;
+    const HttpRequestHead m_requestHead;
     const QByteArray m_pin;
     std::unique_ptr<QTcpSocket> m_socket;
     std::unique_ptr<HttpResponseParser> m_parser;

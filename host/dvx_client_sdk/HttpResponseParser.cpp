@@ -1,6 +1,9 @@
 #include "HttpResponseParser.h"
 
+#include <QIODevice>
+
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace dvx_sdk
@@ -11,6 +14,7 @@ namespace
 
 constexpr qint64 MaxHeadBytes = 32 * 1024; ///< status line, headers, chunk heads and trailers together
 constexpr int MaxChunkDigits = 15;
+constexpr int PieceBytes = 64 * 1024;
 
 } // namespace
 
@@ -28,6 +32,32 @@ void HttpResponseParser::feed(const char* bytes, qint64 count)
     if (isDone() && !m_input.empty())
         m_keepAlive = false; // more than was asked for: the next answer could not be told apart
     m_input = {};
+}
+
+qint64 HttpResponseParser::feedFrom(QIODevice& device)
+{
+    if (m_state == State::Length)
+        return readBodyFrom(device);
+    std::array<char, PieceBytes> bytes;
+    const qint64 count = device.read(bytes.data(), PieceBytes);
+    if (count > 0)
+        feed(bytes.data(), count);
+    return count;
+}
+
+qint64 HttpResponseParser::readBodyFrom(QIODevice& device)
+{
+    const int before = m_body.size();
+    m_body.resize(before + static_cast<int>(m_remaining) + 1); // one more than is asked for, as in feed()
+    const qint64 count = device.read(m_body.data() + before, m_remaining + 1);
+    const qint64 taken = std::clamp<qint64>(count, 0, m_remaining);
+    m_body.resize(before + static_cast<int>(taken));
+    m_remaining -= taken;
+    if (count > taken)
+        m_keepAlive = false;
+    if (m_remaining == 0)
+        end();
+    return count;
 }
 
 void HttpResponseParser::finish()
@@ -130,7 +160,7 @@ void HttpResponseParser::endHead()
         m_state = number && m_remaining >= 0 ? State::Length : State::Broken;
         limitBody(m_remaining);
         if (m_state == State::Length)
-            m_body.reserve(static_cast<int>(m_remaining));
+            m_body.reserve(static_cast<int>(m_remaining) + 1);
         if (m_state == State::Length && m_remaining == 0)
             end();
     } else {

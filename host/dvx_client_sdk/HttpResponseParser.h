@@ -5,6 +5,8 @@
 
 #include <string_view>
 
+class QIODevice;
+
 namespace dvx_sdk
 {
 
@@ -17,6 +19,8 @@ public:
 
     void feed(const char* bytes, qint64 count);
     void feed(const QByteArray& bytes) { feed(bytes.constData(), bytes.size()); }
+    /// Reads once from the device, the body without a copy. Gives what QIODevice::read() gave.
+    qint64 feedFrom(QIODevice& device);
     void finish(); ///< the connection was closed
 
     bool isDone() const { return m_state == State::Done; }
@@ -38,6 +42,7 @@ private:
     void endHead();
     void readChunkHead(const QByteArray& line);
     bool readBody();
+    qint64 readBodyFrom(QIODevice& device);
     void limitBody(qint64 more);
     void end();
 

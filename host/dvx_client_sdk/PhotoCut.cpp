@@ -96,7 +96,7 @@ private:
         if (end == Text::npos)
             return false;
         const Text photo = m_json.substr(quote + 1, end - quote - 1);
-        if (!isPlainText(photo.data(), static_cast<qint64>(photo.size())))
+        if (hasOddByte(photo.data(), photo.size()) || photo.find('\\') != Text::npos)
             return false;
         keepUntil(quote + 1);
         result.body += QByteArray::number(result.photos.count());
