@@ -4,9 +4,10 @@
 
 #include <algorithm>
 #include <chrono>
+#include <filesystem>
 #include <netinet/in.h>
 #include <poll.h>
-#include <sys/resource.h>
+#include <string>
 #include <sys/socket.h>
 #include <thread>
 
@@ -23,10 +24,8 @@ constexpr std::size_t DripBytes = 100000; ///< more than half an hour
 /// The HTTP library does not hand out the socket of a request; the peer's port tells which one it is.
 int socketOf(const httplib::Request& request)
 {
-    rlimit limit{};
-    getrlimit(RLIMIT_NOFILE, &limit);
-    const int last = static_cast<int>(std::min<rlim_t>(limit.rlim_cur, 65536));
-    for (int socket = 3; socket < last; ++socket) {
+    for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
+        const int socket = std::stoi(entry.path().filename().string());
         sockaddr_storage peer{};
         socklen_t length = sizeof peer;
         if (getpeername(socket, reinterpret_cast<sockaddr*>(&peer), &length) != 0)

@@ -1,5 +1,6 @@
 #include "Journal.h"
 
+#include <filesystem>
 #include <random>
 
 namespace sim
@@ -20,20 +21,21 @@ bool replayLine(const nlohmann::json& line, const Channels& channels)
     return channel->second->add(makeFace(line.at("face"))) == FaceChannel::AddResult::Added;
 }
 
-bool replay(std::istream& file, const Channels& channels, std::string& error)
+/// `good` gets the number of bytes up to a torn last line.
+bool replay(std::istream& file, const Channels& channels, std::streamoff& good, std::string& error)
 {
     std::string text;
     for (int number = 1; std::getline(file, text); ++number) {
-        if (text.empty())
-            continue;
-        const bool torn = file.eof(); // the last line of a device that was killed while it wrote
+        const bool lineEnds = !file.eof();
         try {
-            if (replayLine(nlohmann::json::parse(text), channels))
+            if (text.empty() || replayLine(nlohmann::json::parse(text), channels)) {
+                good += static_cast<std::streamoff>(text.size()) + (lineEnds ? 1 : 0);
                 continue;
+            }
             error = "face refused";
         } catch (const nlohmann::json::exception& failure) {
-            if (torn)
-                continue;
+            if (!lineEnds) // of a device that was killed while it wrote
+                return true;
             error = failure.what();
         }
         error = "line " + std::to_string(number) + ": " + error;
@@ -71,15 +73,20 @@ FacePtr makeFace(nlohmann::json object)
 
 bool Journal::open(const std::string& path, const Channels& channels, std::string& error)
 {
-    if (std::ifstream file(path); file && !replay(file, channels, error)) {
+    std::streamoff good = 0;
+    std::ifstream file(path);
+    if (file && !replay(file, channels, good, error)) {
         error = path + ", " + error;
         return false;
     }
+    std::error_code failure; // told below, by what cannot be written
+    if (file.is_open())
+        std::filesystem::resize_file(path, static_cast<std::uintmax_t>(good), failure);
     m_file.open(path, std::ios::app | std::ios::ate);
     if (!m_file)
         error = path + " cannot be written";
     else if (m_file.tellp() > 0)
-        m_file << '\n'; // after a torn last line
+        m_file << '\n'; // the last line may lack its end
     return m_file.good();
 }
 

@@ -1,12 +1,12 @@
 #include "FaceJson.h"
 
 #include "FaceService.h"
+#include "PhotoCut.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <algorithm>
 #include <cmath>
 
 namespace dvx_sdk
@@ -42,24 +42,6 @@ int fromSex(const QJsonValue& value)
     return text.compare(QLatin1String("female"), Qt::CaseInsensitive) == 0 ? 2 : 1;
 }
 
-/// SCIM allows the URL alphabet too (RFC 7643, 2.3.6); who takes the image expects the standard one.
-QByteArray toStandardAlphabet(QByteArray base64)
-{
-    if (base64.contains('-') || base64.contains('_')) { // hardly any does, and it is the largest part
-        base64.replace('-', '+');
-        base64.replace('_', '/');
-    }
-    return base64;
-}
-
-bool isBase64(const QByteArray& text)
-{
-    return std::all_of(text.cbegin(), text.cend(), [](char c) {
-        return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '+' ||
-               c == '/' || c == '=';
-    });
-}
-
 QString toId(const QJsonValue& value)
 {
     // Beyond 2^53 a JSON number is not exact any more: two faces might get one id.
@@ -68,7 +50,16 @@ QString toId(const QJsonValue& value)
     return value.toString();
 }
 
-bool parseFace(const QJsonObject& object, QPair<QString, FaceInfo>& entry)
+/// The text is the photograph, or the number of one that was cut out.
+QByteArray photoOf(const QJsonValue& value, const QList<QByteArray>& cutOut)
+{
+    const QByteArray text = value.toString().toLatin1();
+    if (text.isEmpty())
+        return {};
+    return toStandardAlphabet(cutOut.isEmpty() ? text : cutOut.value(text.toInt()));
+}
+
+bool parseFace(const QJsonObject& object, const QList<QByteArray>& photos, QPair<QString, FaceInfo>& entry)
 {
     entry.first = toId(scimValue(object, "id"));
     FaceInfo& face = entry.second;
@@ -78,7 +69,7 @@ bool parseFace(const QJsonObject& object, QPair<QString, FaceInfo>& entry)
     face.sex = fromSex(scimValue(object, "sex"));
     face.validStartTime = fromTime(scimValue(object, "validFrom"));
     face.validEndTime = fromTime(scimValue(object, "validTo"));
-    const QByteArray photo = toStandardAlphabet(scimValue(object, "photo").toString().toLatin1());
+    const QByteArray photo = photoOf(scimValue(object, "photo"), photos);
     if (!photo.isEmpty())
         face.faceImages.append(photo);
     return !entry.first.isEmpty() && entry.first.size() <= MaxIdLength;
@@ -105,17 +96,20 @@ QByteArray faceToJson(const ModifyFaceCondition& face, const FaceService& servic
         put("validTo", toTime(face.validEndTime));
     QByteArray json = QJsonDocument(object).toJson(QJsonDocument::Compact);
     const QByteArray photo = face.faceImages.value(0);
-    if (!service.takes("photo") || photo.isEmpty() || !isBase64(photo))
+    if (!service.takes("photo") || photo.isEmpty() || !isPlainText(photo.constData(), photo.size()))
         return json;
     json.chop(1); // Base64 needs no escapes: by far the largest part is copied once
     json.reserve(json.size() + photo.size() + 16);
-    return json += ",\"photo\":\"" + photo + "\"}";
+    json += ",\"photo\":\"";
+    json += photo;
+    return json += "\"}";
 }
 
 bool parseFacePage(const QByteArray& body, qint64 startIndex, FacePage& page)
 {
     QJsonObject list;
-    if (!parseScimObject(body, list))
+    const PhotoCut cut = cutPhotos(body);
+    if (!parseScimObject(cut.body, list))
         return false;
     const QJsonValue total = scimValue(list, "totalResults");
     const QJsonValue start = scimValue(list, "startIndex");
@@ -127,7 +121,7 @@ bool parseFacePage(const QByteArray& body, qint64 startIndex, FacePage& page)
         return false;
     for (const QJsonValue& resource : resources) {
         QPair<QString, FaceInfo> entry;
-        if (!resource.isObject() || !parseFace(resource.toObject(), entry))
+        if (!resource.isObject() || !parseFace(resource.toObject(), cut.photos, entry))
             return false;
         page.faces.append(entry);
     }

@@ -16,9 +16,20 @@ namespace
 
 constexpr int ConnectTimeoutMs = 5000;
 constexpr int IdleTimeoutMs = 2000; ///< shorter than servers wait: a close must not meet a request
-constexpr int ReadBufferBytes = 256 * 1024;
+constexpr int ReadBufferBytes = 64 * 1024;
+constexpr int KeptBytes = 256 * 1024; ///< memory that is kept from one request to the next
 constexpr int HttpPort = 80;
 constexpr int HttpsPort = 443;
+
+/// The memory of a buffer for the next use, unless it is large or somebody still has it.
+QByteArray emptied(QByteArray&& buffer)
+{
+    if (!buffer.isDetached() || buffer.capacity() > KeptBytes)
+        return {};
+    buffer.reserve(buffer.capacity()); // or resize() would free it
+    buffer.resize(0);
+    return std::move(buffer);
+}
 
 } // namespace
 
@@ -26,7 +37,7 @@ HttpConnection::HttpConnection(const QUrl& address, const QString& token, const 
                                QObject* parent)
     : QObject(parent),
       m_address(address),
-      m_token(token),
+      m_requestHead(address, token),
       m_pin(pinnedCertificate)
 {
     m_connectTimer.setSingleShot(true);
@@ -45,7 +56,7 @@ void HttpConnection::send(const HttpRequest& request, const Done& done)
     m_done = done;
     m_answered = false;
     m_problems.clear();
-    m_parser = std::make_unique<HttpResponseParser>(request.bodyLimit);
+    m_parser = std::make_unique<HttpResponseParser>(request.bodyLimit, std::move(m_space));
     m_idleTimer.stop();
     m_reused = m_ready;
     if (m_ready)
@@ -87,8 +98,9 @@ void HttpConnection::open()
     m_connectTimer.start();
     if (auto* tls = qobject_cast<QSslSocket*>(m_socket.get()))
         tls->connectToHostEncrypted(m_address.host(), static_cast<quint16>(m_address.port(HttpsPort)));
-    else
-        m_socket->connectToHost(m_address.host(), static_cast<quint16>(m_address.port(HttpPort)));
+    else // unbuffered: what is written goes out at once, what comes is read where it is needed
+        m_socket->connectToHost(m_address.host(), static_cast<quint16>(m_address.port(HttpPort)),
+                                QIODevice::ReadWrite | QIODevice::Unbuffered);
 }
 
 void HttpConnection::slotConnected()
@@ -103,13 +115,9 @@ void HttpConnection::slotEncrypted()
 {
     if (m_pin.isEmpty() || isPinned())
         return slotConnected();
-    // Also when the system would trust the other one. Queued: the socket is in the middle of its handshake.
+    // Also when the system would trust the other one.
     refuseCertificate({tr("The device shows another certificate than the one that was accepted.")});
-    const auto failUnlessGivenUp = [this, socket = QPointer<QTcpSocket>(m_socket.get())] {
-        if (socket == m_socket.get())
-            fail(Untrusted);
-    };
-    QMetaObject::invokeMethod(this, failUnlessGivenUp, Qt::QueuedConnection);
+    failLater(Untrusted); // the socket is in the middle of its handshake
 }
 
 void HttpConnection::slotSslErrors(const QList<QSslError>& errors)
@@ -137,21 +145,29 @@ bool HttpConnection::isPinned() const
 
 void HttpConnection::write()
 {
-    m_socket->write(toWire(m_request, m_address, m_token));
+    m_requestHead.appendWire(m_wire, m_request);
+    const bool written = m_socket->write(m_wire) == m_wire.size();
+    m_wire = emptied(std::move(m_wire));
+    if (!written) // which the socket does not report by its signal
+        failLater(ConnectionLost);
 }
 
 void HttpConnection::slotReadyRead()
 {
     if (!isBusy())
         return close(); // nothing was asked
-    m_answered = true;
-    while (m_socket != nullptr && m_socket->bytesAvailable() > 0 && !m_parser->isDone()) {
-        m_parser->feed(m_socket->readAll()); // at most ReadBufferBytes
-        if (m_parser->isBroken())
-            return fail(BadAnswer);
+    while (!m_parser->isDone() && !m_parser->isBroken()) {
+        const qint64 count = m_parser->feedFrom(*m_socket);
+        if (count < 0) // closed, which the socket does not report by its signal
+            return endAnswer();
+        if (count == 0)
+            return;
+        m_answered = true;
     }
     if (m_parser->isDone())
         succeed();
+    else
+        fail(BadAnswer);
 }
 
 void HttpConnection::slotError()
@@ -169,20 +185,26 @@ void HttpConnection::slotError()
     }
     if (m_socket->bytesAvailable() > 0)
         slotReadyRead();
-    if (!isBusy())
-        return;
+    if (isBusy())
+        endAnswer();
+}
+
+void HttpConnection::endAnswer()
+{
     m_parser->finish();
     if (m_parser->isDone())
-        return succeed();
-    fail(ConnectionLost);
+        succeed();
+    else
+        fail(ConnectionLost);
 }
 
 void HttpConnection::succeed()
 {
     HttpResult result;
     result.status = m_parser->status();
-    result.body = m_parser->body();
+    result.body = m_parser->takeBody();
     finish(result);
+    m_space = emptied(std::move(result.body));
 }
 
 void HttpConnection::fail(int code)
@@ -210,6 +232,15 @@ void HttpConnection::finish(const HttpResult& result)
     const Done done = std::move(m_done);
     m_done = nullptr;
     done(result);
+}
+
+void HttpConnection::failLater(int code)
+{
+    const auto failUnlessGivenUp = [this, code, socket = QPointer<QTcpSocket>(m_socket.get())] {
+        if (socket == m_socket.get())
+            fail(code);
+    };
+    QMetaObject::invokeMethod(this, failUnlessGivenUp, Qt::QueuedConnection);
 }
 
 void HttpConnection::close()

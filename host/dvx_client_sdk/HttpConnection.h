@@ -42,15 +42,17 @@ private:
     void refuseCertificate(const QStringList& problems);
     void slotReadyRead();
     void slotError();
+    void endAnswer(); ///< the connection was closed, which ends some answers
     void finish(const HttpResult& result);
     void succeed();
     void fail(int code);
+    void failLater(int code); ///< where it must not happen at once
     void close();
     bool isPinned() const;
     bool isTls() const { return m_address.scheme() == QLatin1String("https"); }
 
     const QUrl m_address;
-    const QString m_token;
+    const HttpRequestHead m_requestHead;
     const QByteArray m_pin;
     std::unique_ptr<QTcpSocket> m_socket;
     std::unique_ptr<HttpResponseParser> m_parser;
@@ -61,6 +63,8 @@ private:
     bool m_ready = false;    ///< connected, and encrypted where the address says so
     bool m_reused = false;   ///< this is not the connection's first request
     bool m_answered = false; ///< bytes of an answer have come
+    QByteArray m_wire;       ///< memory for the bytes of a request, used again and again
+    QByteArray m_space;      ///< memory for the body of an answer, likewise
     QTimer m_connectTimer;
     QTimer m_idleTimer;
 };

@@ -13,29 +13,33 @@ bool isUsable(const QUrl& address, const QString& token)
                        [](QChar c) { return c.unicode() > 0x20 && c.unicode() < 0x7f; });
 }
 
-QByteArray toWire(const HttpRequest& request, const QUrl& address, const QString& token)
+HttpRequestHead::HttpRequestHead(const QUrl& address, const QString& token)
+    : m_path(address.path(QUrl::FullyEncoded).toLatin1())
 {
-    QByteArray base = address.path(QUrl::FullyEncoded).toLatin1();
-    while (base.endsWith('/'))
-        base.chop(1);
+    while (m_path.endsWith('/'))
+        m_path.chop(1);
     QByteArray host = address.host(QUrl::FullyEncoded).toLatin1();
     if (host.contains(':'))
         host = '[' + host + ']';
     if (address.port() > 0)
         host += ':' + QByteArray::number(address.port());
-
-    QByteArray wire;
-    wire.reserve(request.body.size() + 1024);
-    wire += request.method + ' ' + base + request.path + " HTTP/1.1\r\nHost: " + host + "\r\n";
+    m_headers = " HTTP/1.1\r\nHost: " + host + "\r\n";
     if (!token.isEmpty())
-        wire += "Authorization: Bearer " + token.toLatin1() + "\r\n";
+        m_headers += "Authorization: Bearer " + token.toLatin1() + "\r\n";
     // Compressed answers would make a small answer a large one after the size was checked.
-    wire += "Accept: application/scim+json, application/json\r\nAccept-Encoding: identity\r\n"
-            "User-Agent: qarn-person-register\r\n";
+    m_headers += "Accept: application/scim+json, application/json\r\nAccept-Encoding: identity\r\n"
+                 "User-Agent: qarn-person-register\r\n";
+}
+
+void HttpRequestHead::appendWire(QByteArray& wire, const HttpRequest& request) const
+{
+    wire.reserve(wire.size() + request.body.size() + 1024);
+    wire += request.method + ' ' + m_path + request.path + m_headers;
     if (!request.body.isEmpty())
         wire += QByteArray("Content-Type: ") + ScimMediaType +
                 "\r\nContent-Length: " + QByteArray::number(request.body.size()) + "\r\n";
-    return wire += "\r\n" + request.body;
+    wire += "\r\n";
+    wire += request.body; // by far the largest part: copied once
 }
 
 } // namespace dvx_sdk

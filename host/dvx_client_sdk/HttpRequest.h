@@ -32,7 +32,18 @@ struct HttpResult {
 /// Whether requests can be made of this address and token: http(s), a host, nothing that breaks a header.
 bool isUsable(const QUrl& address, const QString& token);
 
-/// The request as bytes for the wire.
-QByteArray toWire(const HttpRequest& request, const QUrl& address, const QString& token);
+/// What all requests to a device have in common.
+class HttpRequestHead
+{
+public:
+    HttpRequestHead(const QUrl& address, const QString& token);
+
+    /// Appends the request as bytes for the wire.
+    void appendWire(QByteArray& wire, const HttpRequest& request) const;
+
+private:
+    QByteArray m_path;    ///< of the address
+    QByteArray m_headers; ///< the protocol and the lines that are always the same
+};
 
 } // namespace dvx_sdk

@@ -1,6 +1,10 @@
 #include "HttpResponseParser.h"
 
+#include <QIODevice>
+
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace dvx_sdk
 {
@@ -10,18 +14,50 @@ namespace
 
 constexpr qint64 MaxHeadBytes = 32 * 1024; ///< status line, headers, chunk heads and trailers together
 constexpr int MaxChunkDigits = 15;
+constexpr int PieceBytes = 64 * 1024;
 
 } // namespace
 
-HttpResponseParser::HttpResponseParser(qint64 bodyLimit) : m_bodyLimit(bodyLimit) {}
-
-void HttpResponseParser::feed(const QByteArray& bytes)
+HttpResponseParser::HttpResponseParser(qint64 bodyLimit, QByteArray space)
+    : m_bodyLimit(bodyLimit),
+      m_body(std::move(space))
 {
-    m_input += bytes;
+}
+
+void HttpResponseParser::feed(const char* bytes, qint64 count)
+{
+    m_input = {bytes, static_cast<std::size_t>(count)};
     while (!isDone() && !isBroken() && step()) {
     }
-    if (isDone() && !m_input.isEmpty())
+    if (isDone() && !m_input.empty())
         m_keepAlive = false; // more than was asked for: the next answer could not be told apart
+    m_input = {};
+}
+
+qint64 HttpResponseParser::feedFrom(QIODevice& device)
+{
+    if (m_state == State::Length)
+        return readBodyFrom(device);
+    std::array<char, PieceBytes> bytes;
+    const qint64 count = device.read(bytes.data(), PieceBytes);
+    if (count > 0)
+        feed(bytes.data(), count);
+    return count;
+}
+
+qint64 HttpResponseParser::readBodyFrom(QIODevice& device)
+{
+    const int before = m_body.size();
+    m_body.resize(before + static_cast<int>(m_remaining) + 1); // one more than is asked for, as in feed()
+    const qint64 count = device.read(m_body.data() + before, m_remaining + 1);
+    const qint64 taken = std::clamp<qint64>(count, 0, m_remaining);
+    m_body.resize(before + static_cast<int>(taken));
+    m_remaining -= taken;
+    if (count > taken)
+        m_keepAlive = false;
+    if (m_remaining == 0)
+        end();
+    return count;
 }
 
 void HttpResponseParser::finish()
@@ -37,7 +73,7 @@ void HttpResponseParser::finish()
 bool HttpResponseParser::step()
 {
     if (m_state == State::Length || m_state == State::Chunk || m_state == State::UntilClose)
-        return takeBody();
+        return readBody();
     QByteArray line;
     if (!takeLine(line))
         return false;
@@ -58,19 +94,21 @@ bool HttpResponseParser::step()
 
 bool HttpResponseParser::takeLine(QByteArray& line)
 {
-    const int end = m_input.indexOf('\n');
-    const qint64 length = end < 0 ? m_input.size() : end + 1;
-    if (m_headBytes + length > MaxHeadBytes) {
+    const std::size_t end = m_input.find('\n');
+    const bool whole = end != std::string_view::npos;
+    const std::string_view piece = m_input.substr(0, whole ? end + 1 : end);
+    m_headBytes += static_cast<qint64>(piece.size());
+    if (m_headBytes > MaxHeadBytes) {
         m_state = State::Broken;
         return false;
     }
-    if (end < 0)
+    m_line.append(piece.data(), static_cast<int>(piece.size()));
+    m_input.remove_prefix(piece.size());
+    if (!whole)
         return false;
-    m_headBytes += length;
-    line = m_input.left(end);
-    m_input.remove(0, end + 1);
-    if (line.endsWith('\r'))
-        line.chop(1);
+    m_line.chop(m_line.endsWith("\r\n") ? 2 : 1);
+    line = std::move(m_line);
+    m_line.clear();
     return true;
 }
 
@@ -122,7 +160,7 @@ void HttpResponseParser::endHead()
         m_state = number && m_remaining >= 0 ? State::Length : State::Broken;
         limitBody(m_remaining);
         if (m_state == State::Length)
-            m_body.reserve(static_cast<int>(m_remaining));
+            m_body.reserve(static_cast<int>(m_remaining) + 1);
         if (m_state == State::Length && m_remaining == 0)
             end();
     } else {
@@ -145,20 +183,18 @@ void HttpResponseParser::readChunkHead(const QByteArray& line)
     limitBody(m_remaining);
 }
 
-bool HttpResponseParser::takeBody()
+bool HttpResponseParser::readBody()
 {
-    if (m_input.isEmpty())
+    if (m_input.empty())
         return false;
     const bool counted = m_state != State::UntilClose;
-    const qint64 count = counted ? std::min<qint64>(m_remaining, m_input.size()) : m_input.size();
+    const auto available = static_cast<qint64>(m_input.size());
+    const qint64 count = counted ? std::min(m_remaining, available) : available;
     limitBody(count);
     if (isBroken())
         return false;
-    m_body.append(m_input.constData(), static_cast<int>(count));
-    if (count == m_input.size())
-        m_input.clear();
-    else
-        m_input.remove(0, static_cast<int>(count));
+    m_body.append(m_input.data(), static_cast<int>(count));
+    m_input.remove_prefix(static_cast<std::size_t>(count));
     m_remaining -= counted ? count : 0;
     if (counted && m_remaining == 0) {
         if (m_state == State::Chunk)

@@ -3,6 +3,10 @@
 #include <QByteArray>
 #include <QMap>
 
+#include <string_view>
+
+class QIODevice;
+
 namespace dvx_sdk
 {
 
@@ -10,9 +14,13 @@ namespace dvx_sdk
 class HttpResponseParser
 {
 public:
-    explicit HttpResponseParser(qint64 bodyLimit);
+    /// `space` is an empty array with memory for the body.
+    explicit HttpResponseParser(qint64 bodyLimit, QByteArray space = {});
 
-    void feed(const QByteArray& bytes);
+    void feed(const char* bytes, qint64 count);
+    void feed(const QByteArray& bytes) { feed(bytes.constData(), bytes.size()); }
+    /// Reads once from the device, the body without a copy. Gives what QIODevice::read() gave.
+    qint64 feedFrom(QIODevice& device);
     void finish(); ///< the connection was closed
 
     bool isDone() const { return m_state == State::Done; }
@@ -20,6 +28,7 @@ public:
     int status() const { return m_status; }
     QByteArray header(const QByteArray& lowerCaseName) const { return m_headers.value(lowerCaseName); }
     const QByteArray& body() const { return m_body; }
+    QByteArray takeBody() { return std::move(m_body); }
     /// Whether the connection can carry another request. Only when done.
     bool canKeepAlive() const { return m_keepAlive; }
 
@@ -32,7 +41,8 @@ private:
     void readHeader(const QByteArray& line);
     void endHead();
     void readChunkHead(const QByteArray& line);
-    bool takeBody();
+    bool readBody();
+    qint64 readBodyFrom(QIODevice& device);
     void limitBody(qint64 more);
     void end();
 
@@ -44,7 +54,8 @@ private:
     bool m_oldProtocol = false;
     bool m_keepAlive = false;
     QMap<QByteArray, QByteArray> m_headers;
-    QByteArray m_input;
+    std::string_view m_input; ///< not read yet, of the bytes being fed
+    QByteArray m_line;        ///< begun in the pieces before
     QByteArray m_body;
 };
 

@@ -1,20 +1,15 @@
 #include "sync/SynchronizeFacesThread.h"
 
-#include "sync/ChannelGate.h"
+#include "sync/ChannelRequests.h"
 #include "sync/FaceConversion.h"
 
 #include <dvx_client_sdk/ClientSignals.h>
-#include <dvx_client_sdk/FaceRequests.h>
 #include <qarn_base/BaseTools.h>
 #include <qarn_contact/SystemMsg.h>
 #include <qarn_data/PersonData.h>
 
-#include <QEventLoop>
 #include <QTimer>
 #include <QUuid>
-
-#include <algorithm>
-#include <memory>
 
 using dvx_sdk::ClientSignals;
 using dvx_sdk::FaceInfo;
@@ -37,20 +32,7 @@ QMap<QString, PersonInfo> bySerialNum(const QList<PersonInfo>& persons)
     return map;
 }
 
-template <typename Predicate>
-QList<FaceInfo> facesWhere(const QList<FaceInfo>& faces, Predicate predicate)
-{
-    QList<FaceInfo> chosen;
-    std::copy_if(faces.cbegin(), faces.cend(), std::back_inserter(chosen), predicate);
-    return chosen;
-}
-
 } // namespace
-
-struct SynchronizeFacesThread::Work {
-    QEventLoop loop;
-    std::shared_ptr<ChannelGate> gate = std::make_shared<ChannelGate>(); ///< outlives the loop
-};
 
 SynchronizeFacesThread::SynchronizeFacesThread(const QList<PersonInfo>& chosen,
                                                const QList<Channel>& channels_, bool deleteRemoved_,
@@ -118,149 +100,9 @@ void SynchronizeFacesThread::setWatchdogInterval(int ms)
         watchdog->start(watchdogInterval);
 }
 
-void SynchronizeFacesThread::run()
-{
-    if (mode == ToDevices)
-        synchronizeToDevices();
-    else
-        synchronizeFromDevices();
-}
-
-void SynchronizeFacesThread::synchronizeToDevices()
-{
-    while (!channels.isEmpty() && !cancelled) {
-        Work work;
-        readFaces(work);
-        if (!cancelled && deleteRemoved) {
-            const QSet<QString> known = PersonData::instance().getAllPersonsSerialNum();
-            deleteFaces(work, facesWhere(devFaces, [&known](const FaceInfo& face) {
-                            return !known.contains(face.serialNum);
-                        }));
-        }
-        if (!cancelled)
-            deleteFaces(work, facesWhere(devFaces, [this](const FaceInfo& face) {
-                            return persons.contains(face.serialNum);
-                        }));
-        if (!cancelled)
-            addFaces(work);
-        if (!cancelled)
-            channels.removeFirst();
-    }
-    finish();
-}
-
-void SynchronizeFacesThread::synchronizeFromDevices()
-{
-    while (!channels.isEmpty() && !cancelled) {
-        Work work;
-        readFaces(work);
-        if (!cancelled)
-            importFaces();
-        if (!cancelled)
-            channels.removeFirst();
-    }
-    finish();
-}
-
-void SynchronizeFacesThread::importFaces()
-{
-    PersonData& data = PersonData::instance();
-    QSet<QString> known = data.getAllPersonsSerialNum();
-    PersonInfo person; // one for all faces: what a face does not supply stays from the face before it
-    for (const FaceInfo& face : qAsConst(devFaces)) {
-        if (known.contains(face.serialNum)) {
-            person = data.getPersonBySerialNum(face.serialNum, false);
-            updatePersonFromFace(person, face);
-            data.updatePerson(person);
-        } else {
-            fillPersonFromFace(person, face, organizationIds.value(0));
-            if (data.addPerson(person))
-                known.insert(person.serialNum);
-        }
-    }
-}
-
-void SynchronizeFacesThread::finish()
-{
-    if (!cancelled && !ended.exchange(true))
-        emit signalSyncFinished();
-}
-
-void SynchronizeFacesThread::readFaces(Work& work)
-{
-    emit signalSyncMsg(tr("getting %1 faces....").arg(channelName()), true);
-    devFaces.clear();
-    const auto gate = work.gate;
-    const int phase = gate->startPhase();
-    connect(this, &SynchronizeFacesThread::signalQuitSync, this, [gate] { gate->openForGood(); });
-    connect(this, &SynchronizeFacesThread::signalGetAllFacesFromDevFinished, this,
-            [this, gate, phase](bool success) {
-                slotReadEnded(success);
-                gate->open(phase);
-            });
-    if (!cancelled)
-        requestFaces();
-    await(work);
-}
-
-void SynchronizeFacesThread::slotReadEnded(bool success)
-{
-    if (success)
-        return;
-    emit signalSyncMsg(tr("get %1 faces failed").arg(channelName()), false);
-    if (mode == FromDevices)
-        watchdog->stop();
-}
-
-void SynchronizeFacesThread::deleteFaces(Work& work, const QList<FaceInfo>& faces)
-{
-    pendingDeletes = faces;
-    if (pendingDeletes.isEmpty())
-        return;
-    emit signalSyncMsg(tr("deleting %1 faces....").arg(channelName()), true);
-    const auto gate = work.gate;
-    const int phase = gate->startPhase();
-    connect(this, &SynchronizeFacesThread::signalDelFacesFromDevFinished, this,
-            [gate, phase] { gate->open(phase); });
-    if (!cancelled)
-        requestDelete();
-    await(work);
-}
-
-void SynchronizeFacesThread::addFaces(Work& work)
-{
-    if (persons.isEmpty())
-        return;
-    emit signalSyncMsg(tr("adding %1 faces...").arg(channelName()), true);
-    addPosition = persons.constBegin();
-    const auto gate = work.gate;
-    const int phase = gate->startPhase();
-    connect(this, &SynchronizeFacesThread::signalAddFacesToDevFinished, this,
-            [gate, phase] { gate->open(phase); });
-    if (!cancelled)
-        requestAdd();
-    await(work);
-}
-
-void SynchronizeFacesThread::await(Work& work)
-{
-    // A cancel before the gate was connected has opened nothing, but then the flag is set.
-    if (!cancelled && !work.gate->wait(work.loop))
-        cancel();
-}
-
 void SynchronizeFacesThread::requestFaces()
 {
-    constexpr int ListPageSize = 32;
-    constexpr int ImagePageSize = 1; // an answer with photographs stays small
-    dvx_sdk::GetFacesCondition condition;
-    condition.requestId = syncId;
-    condition.deviceId = channels.constFirst().first;
-    condition.channelNo = channels.constFirst().second;
-    condition.includeImages = mode == FromDevices;
-    condition.pageSize = condition.includeImages ? ImagePageSize : ListPageSize;
-    condition.pageNo = devFaces.count() / condition.pageSize + 1;
-    dvx_sdk::get_faces_req(condition);
+    ChannelRequests(syncId, channels.constFirst()).askFaces(devFaces.count(), mode == FromDevices);
 }
 
 void SynchronizeFacesThread::slotGetFacesRes(dvx_sdk::Response response, dvx_sdk::FaceInfoList faces,
@@ -279,14 +121,18 @@ void SynchronizeFacesThread::slotGetFacesRes(dvx_sdk::Response response, dvx_sdk
         emit signalGetAllFacesFromDevFinished(true);
 }
 
+void SynchronizeFacesThread::slotReadEnded(bool success)
+{
+    if (success)
+        return;
+    emit signalSyncMsg(tr("get %1 faces failed").arg(channelName()), false);
+    if (mode == FromDevices)
+        watchdog->stop();
+}
+
 void SynchronizeFacesThread::requestDelete()
 {
-    dvx_sdk::DelFaceCondition condition;
-    condition.requestId = syncId;
-    condition.deviceId = channels.constFirst().first;
-    condition.channelNo = channels.constFirst().second;
-    condition.faceId = pendingDeletes.constFirst().faceId;
-    dvx_sdk::del_face_req(condition);
+    ChannelRequests(syncId, channels.constFirst()).deleteFace(pendingDeletes.constFirst());
 }
 
 void SynchronizeFacesThread::slotDelFaceRes(dvx_sdk::Response response)
@@ -304,13 +150,7 @@ void SynchronizeFacesThread::slotDelFaceRes(dvx_sdk::Response response)
 
 void SynchronizeFacesThread::requestAdd()
 {
-    const PersonInfo& person = *addPosition;
-    dvx_sdk::ModifyFaceCondition face =
-        faceOfPerson(person, PersonData::instance().getHierarchicalOrganizationNames(person.organizationId));
-    face.requestId = syncId;
-    face.deviceId = channels.constFirst().first;
-    face.channelNo = channels.constFirst().second;
-    dvx_sdk::add_face_req(face);
+    ChannelRequests(syncId, channels.constFirst()).addFaceOf(*addPosition);
 }
 
 void SynchronizeFacesThread::slotAddFaceRes(dvx_sdk::Response response)

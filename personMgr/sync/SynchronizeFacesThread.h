@@ -69,7 +69,6 @@ private:
 
     void synchronizeToDevices();
     void synchronizeFromDevices();
-    void importFaces();
     void finish();
 
     void readFaces(Work& work);

@@ -1,5 +1,6 @@
 #include "HttpResponseParser.h"
 
+#include <QBuffer>
 #include <QtTest>
 
 using dvx_sdk::HttpResponseParser;
@@ -10,6 +11,8 @@ class tst_HttpResponseParser : public QObject
 private slots:
     void answers_data();
     void answers();
+    void answersFromADevice_data() { answers_data(); }
+    void answersFromADevice();
     void brokenAnswers_data();
     void brokenAnswers();
     void closedInTheMiddle();
@@ -58,6 +61,33 @@ void tst_HttpResponseParser::answers()
         QTEST(parser.status(), "status");
         QCOMPARE(parser.body(), body);
         QTEST(parser.canKeepAlive(), "keepAlive");
+    }
+}
+
+/// As from a socket, which has a piece after another.
+void tst_HttpResponseParser::answersFromADevice()
+{
+    QFETCH(QByteArray, wire);
+    QFETCH(QByteArray, body);
+    for (const int piece : {1, 2, 7, 1000}) {
+        QByteArray space;
+        space.reserve(20);
+        HttpResponseParser parser(1000, space);
+        for (int at = 0; at < wire.size() && !parser.isDone(); at += piece) {
+            QByteArray bytes = wire.mid(at, piece);
+            QBuffer device(&bytes);
+            QVERIFY(device.open(QIODevice::ReadOnly));
+            while (!device.atEnd() && !parser.isDone())
+                QVERIFY(parser.feedFrom(device) > 0);
+        }
+        const bool oneByteTooMany = piece == 1 && body == "a" && wire.endsWith("aHTTP/1.1 200 OK");
+        if (!parser.isDone())
+            parser.finish();
+        QVERIFY(parser.isDone());
+        QTEST(parser.status(), "status");
+        QCOMPARE(parser.takeBody(), body);
+        if (!oneByteTooMany) // which the socket has still to get then
+            QTEST(parser.canKeepAlive(), "keepAlive");
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "sync/SynchronizeFacesThread.h"
 
+#include <QEventLoop>
 #include <QSignalSpy>
 #include <QTimer>
 #include <QtTest>
@@ -24,8 +25,13 @@ public:
     /// True when it ended in time; all that it told has arrived then.
     bool run(int ms = 30000)
     {
+        // Each answer is handled when it comes: QTest::qWaitFor() would look only every ten milliseconds.
+        QEventLoop loop;
+        QObject::connect(&worker, &QThread::finished, &loop, &QEventLoop::quit);
+        QTimer::singleShot(ms, &loop, &QEventLoop::quit);
         worker.start();
-        const bool ended = QTest::qWaitFor([this] { return worker.isFinished(); }, ms);
+        loop.exec();
+        const bool ended = worker.wait(100);
         QCoreApplication::processEvents();
         return ended;
     }
