@@ -207,6 +207,9 @@ void tst_FaceRequestFaults::fullChannelAndBadPhotographs()
     QCOMPARE(link.add(sim.id(), 1, "A", "no JPEG at all"), 400);
     QCOMPARE(link.add(sim.id(), 1, "A", QByteArray()), 400);
     QCOMPARE(link.add(sim.id(), 1, "A", testPhoto(2 * 1024 * 1024 + 1000)), 413);
+    // The device answers before it has taken all of this, and closes: the answer may be lost on the way.
+    const int tooLarge = link.add(sim.id(), 1, "A", testPhoto(8 * 1024 * 1024));
+    QVERIFY2(tooLarge == 413 || tooLarge == ConnectionLost, qPrintable(QString::number(tooLarge)));
     QCOMPARE(link.add(sim.id(), 1, "A", testPhoto(2 * 1024 * 1024 - 1000)), int(Success));
     QCOMPARE(link.add(sim.id(), 1, "B", testPhoto()), 507);
     QCOMPARE(link.list(sim.id(), 1, 1, 1, true).faces.count(), 1);
