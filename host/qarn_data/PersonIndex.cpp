@@ -15,6 +15,12 @@ void PersonIndex::reserve(int records)
         byPerson->reserve(records);
 }
 
+void PersonIndex::prepare() const
+{
+    keys();
+    recordsByPerson();
+}
+
 const PersonKeys& PersonIndex::keys() const
 {
     return m_keys.get([this](PersonKeys& keys) {

@@ -24,6 +24,8 @@ class PersonIndex
 {
 public:
     void reserve(int records);
+    /// Makes the ways to find a record now, which whoever needs them first would wait for.
+    void prepare() const;
     /// `record.number` is greater than every number before, or is a known one, which is replaced.
     void put(StoredRecord record);
     /// Numbers that are not known are ignored. The removed records' ids.

@@ -67,9 +67,9 @@ public:
 private:
     QString objectionTo(const PersonInfo& info) const
     {
-        if (m_ids.contains(info.id) || m_state.persons.byId(info.id) != nullptr)
+        if (m_ids.contains(info.id) || m_state.persons.recordNumber(info.id) != 0)
             return tr("%1: the id is taken.").arg(caption(info));
-        if (m_serialNums.contains(info.serialNum) || m_state.persons.bySerialNum(info.serialNum) != nullptr)
+        if (m_serialNums.contains(info.serialNum) || m_state.persons.personWithSerialNum(info.serialNum) != 0)
             return tr("%1: the serial number is taken; choose another one.").arg(caption(info));
         if (!info.organizationId.isEmpty() && !m_state.organizations.contains(info.organizationId))
             return tr("%1: the organization does not exist; choose another one.").arg(caption(info));
@@ -117,13 +117,15 @@ bool addPersons(const PersonList& persons)
                 admission.consider(person);
             if (!admission.refusals.isEmpty())
                 session.refuse(listed(admission.refusals));
-            const QVector<StoredRecord>& accepted = admission.accepted;
+            QVector<StoredRecord>& accepted = admission.accepted;
             if (!accepted.isEmpty() && session.check(insertAll(session, accepted)))
                 session.commit(ChangeKind::PersonsAdded, recordRange(accepted), [&](RegisterState& state) {
                     state.persons.reserve(state.persons.count() + accepted.size());
-                    for (const StoredRecord& record : accepted) {
-                        state.putRecord(record);
-                        stored.append(*state.persons.record(record.number));
+                    stored.reserve(accepted.size());
+                    for (StoredRecord& record : accepted) {
+                        const qint64 number = record.number;
+                        state.putRecord(std::move(record));
+                        stored.append(*state.persons.record(number));
                     }
                 });
         }

@@ -90,6 +90,7 @@ void Register::loadInBackground(const QString& location, std::promise<QString> r
         refusal.set_value(error);
     else if (!ok)
         tellLoadingFailure(error);
+    readPersons([](const PersonIndex& persons) { persons.prepare(); });
 }
 
 bool Register::load(const QString& location, const std::function<void()>& ahead, QString* error)
