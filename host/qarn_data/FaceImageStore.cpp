@@ -36,6 +36,13 @@ QByteArray FaceImageStore::image(const QByteArray& key)
     return bytes;
 }
 
+void FaceImageStore::readAll()
+{
+    if (!m_store.forEachRow("SELECT hash, bytes FROM face_images", {},
+                            [this](const Row& row) { m_read.insert(row.bytes(0), row.bytes(1)); }))
+        m_hasFailed = true;
+}
+
 QByteArray FaceImageStore::put(const QByteArray& bytes)
 {
     const QByteArray key = keyOf(bytes);

@@ -16,6 +16,8 @@ public:
     explicit FaceImageStore(SqlStore& store) : m_store(store) {}
 
     QByteArray image(const QByteArray& key); ///< empty when there is none, or when reading failed
+    /// Reads every image in the order of the file, for whoever will ask for most of them.
+    void readAll();
     QByteArray put(const QByteArray& bytes); ///< the key; empty when the store refuses
     /// Whether any image could not be read.
     bool hasFailed() const { return m_hasFailed; }

@@ -106,6 +106,7 @@ bool PersonTable::firstRecords(int count, NumberRange* numbers)
 bool PersonTable::readAll(const RecordHandler& handler)
 {
     static const Selection all{recordsWhere(""), valuesWhere(""), facesWhere("")};
+    m_faces.readAll();
     return read(all, {}, handler);
 }
 

@@ -12,6 +12,7 @@ class tst_FaceImageStore : public QObject
 private slots:
     void keepsEqualImagesOnce();
     void handsOutSharedBytes();
+    void readsAllAtOnce();
     void unusedImagesGo();
 };
 
@@ -62,6 +63,21 @@ void tst_FaceImageStore::handsOutSharedBytes()
     QVERIFY(broken.image(key).isEmpty());
     QVERIFY(broken.hasFailed());
     QVERIFY(broken.put("jpeg").isEmpty());
+}
+
+void tst_FaceImageStore::readsAllAtOnce()
+{
+    Store store;
+    const QByteArray first = store.faces.put("first");
+    const QByteArray second = store.faces.put("second");
+    FaceImageStore faces(store.sql);
+    faces.readAll();
+    store.sql.run("DROP TABLE face_images"); // it has no need of it any more
+    QCOMPARE(faces.image(first), QByteArray("first"));
+    QCOMPARE(faces.image(second), QByteArray("second"));
+    QVERIFY(!faces.hasFailed());
+    faces.readAll();
+    QVERIFY(faces.hasFailed());
 }
 
 void tst_FaceImageStore::unusedImagesGo()
