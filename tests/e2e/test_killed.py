@@ -55,6 +55,7 @@ class KilledWhileImporting(Killed):
         if count == 0:
             self.start_import(client, new)
         client.until(lambda: self.assert_whole() == NEW_ROWS, "all new persons")
+        client.until(lambda: not client.widgets("caption"), "the import ends")
 
         # Existing persons are updated one by one; what was done stays.
         self.start_import(client, self.table(
