@@ -16,7 +16,8 @@ constexpr int fontPixels = 12; // the forms' fixed sizes are made for it
 
 /// The narrow cut first: the longest words on the fixed buttons need it.
 const QStringList fontFamilies = {QStringLiteral("Noto Sans Display"), QStringLiteral("Noto Sans"),
-                                  QStringLiteral("Noto Sans CJK SC"), QStringLiteral("DejaVu Sans")};
+                                  QStringLiteral("WenQuanYi Micro Hei"), QStringLiteral("Noto Sans CJK SC"),
+                                  QStringLiteral("DejaVu Sans")};
 
 QFont hostFont()
 {
