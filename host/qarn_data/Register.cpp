@@ -157,7 +157,7 @@ void Register::enter(RegisterState& state, const QString& location, int missingP
 bool Register::readFirstPersons(int count, PersonList* persons, int* total) const
 {
     const QReadLocker locker(&m_lock);
-    if (m_missingPersons == 0 || count > m_state.persons.count())
+    if (m_missingPersons == 0 || count < 0 || count > m_state.persons.count())
         return false;
     *persons = m_state.persons.all().mid(0, count);
     *total = m_state.persons.count() + m_missingPersons;
