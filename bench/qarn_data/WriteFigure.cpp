@@ -4,8 +4,6 @@
 #include "support/StatementRecorder.h"
 #include "support/StatementReplay.h"
 
-#include <qarn_data/PersonData.h>
-
 namespace qarn_bench
 {
 
@@ -26,16 +24,6 @@ RecordedStatements record(const QString& store, const std::function<void()>& wri
     return statements;
 }
 
-// What finds a person is made when first needed, or in the client by the thread that reads the register; it
-// belongs to opening, not to the first write.
-void findSomebody()
-{
-    const qarn_data::PersonData& data = qarn_data::PersonData::instance();
-    const qarn_data::PersonList all = data.getAllPersons(false);
-    if (!all.isEmpty())
-        data.getPersonBySerialNum(all.first().serialNum, false);
-}
-
 } // namespace
 
 int measureWrites(const char* name, const StoreFiles& files, const QString& store,
@@ -49,7 +37,7 @@ int measureWrites(const char* name, const StoreFiles& files, const QString& stor
         figure, Rounds,
         [&] {
             openStore(files.copy(store, QStringLiteral("ours.db")));
-            findSomebody();
+            findSomebody(); // belongs to opening, not to the first write
             const double time = milliseconds(write);
             closeStore();
             return time;

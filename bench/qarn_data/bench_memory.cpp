@@ -44,6 +44,7 @@ int measureIndex(const QString& path)
 {
     const double before = residentBytes();
     openStore(path);
+    findSomebody();
     return printMeasure(residentBytes() - before);
 }
 

@@ -52,6 +52,14 @@ void closeStore()
     qarn_data::DataService::instance().close();
 }
 
+void findSomebody()
+{
+    const qarn_data::PersonData& data = qarn_data::PersonData::instance();
+    const qarn_data::PersonList all = data.getAllPersons(false);
+    if (!all.isEmpty())
+        data.getPersonBySerialNum(all.first().serialNum, false);
+}
+
 QStringList addOrganizations(int count)
 {
     QStringList ids;

@@ -26,6 +26,9 @@ private:
 
 void openStore(const QString& path);
 void closeStore();
+/// Makes the ways to find a person, which are made when first needed, or in the client by the thread that
+/// reads the register.
+void findSomebody();
 
 /// Organizations below the root of the open store.
 QStringList addOrganizations(int count);

@@ -244,11 +244,6 @@ const PersonInfo* PersonIndex::record(qint64 number) const
     return place < 0 ? nullptr : &m_infos.at(place);
 }
 
-const PersonInfo* PersonIndex::byId(const QString& id) const
-{
-    return record(keys().record(id));
-}
-
 const PersonInfo* PersonIndex::bySerialNum(const QString& serialNum) const
 {
     const qint64 person = personWithSerialNum(serialNum);

@@ -45,7 +45,6 @@ public:
     bool anyIn(const QStringList& organizationIds) const;
 
     const PersonInfo* record(qint64 number) const; ///< null when unknown, as for the next three
-    const PersonInfo* byId(const QString& id) const;
     const PersonInfo* bySerialNum(const QString& serialNum) const;
     const PersonInfo* byName(const QString& name) const;
     qint64 recordNumber(const QString& id) const { return keys().record(id); } ///< 0 when unknown

@@ -90,7 +90,8 @@ void Register::loadInBackground(const QString& location, std::promise<QString> r
         refusal.set_value(error);
     else if (!ok)
         tellLoadingFailure(error);
-    readPersons([](const PersonIndex& persons) { persons.prepare(); });
+    if (ok)
+        readPersons([](const PersonIndex& persons) { persons.prepare(); });
 }
 
 bool Register::load(const QString& location, const std::function<void()>& ahead, QString* error)
@@ -100,10 +101,7 @@ bool Register::load(const QString& location, const std::function<void()>& ahead,
     QString reason;
     bool ok = m_store->open(location, &reason);
     if (ok) {
-        ok = m_store->beginRead();
-        if (ok && ahead && loadFirst(location))
-            ahead();
-        ok = ok && loadAll(location);
+        ok = m_store->beginRead() && loadAll(location, ahead);
         if (!ok)
             reason = m_store->cause();
         m_store->rollback();
@@ -123,24 +121,28 @@ bool Register::load(const QString& location, const std::function<void()>& ahead,
     return true;
 }
 
-// A failure says nothing yet: reading everything will meet it again.
-bool Register::loadFirst(const QString& location)
+bool Register::loadAll(const QString& location, const std::function<void()>& ahead)
 {
     RegisterState state;
-    int persons = 0;
-    if (!state.loadAllButPersons(*m_store) || !state.loadFirstPersons(*m_store, largestPage) ||
-        !PersonTable(*m_store, state.organizations).count(&persons))
+    if (!state.loadAllButPersons(*m_store))
         return false;
-    enter(state, location, persons - state.persons.count());
+    // A failure to show the first persons says nothing yet: reading all will meet it again.
+    if (ahead && enterFirst(state, location))
+        ahead();
+    if (!state.loadPersons(*m_store))
+        return false;
+    enter(state, location, 0);
     return true;
 }
 
-bool Register::loadAll(const QString& location)
+bool Register::enterFirst(const RegisterState& others, const QString& location)
 {
-    RegisterState state;
-    if (!state.load(*m_store))
+    RegisterState first = others.withoutPersons();
+    int persons = 0;
+    if (!first.loadFirstPersons(*m_store, largestPage) ||
+        !PersonTable(*m_store, first.organizations).count(&persons))
         return false;
-    enter(state, location, 0);
+    enter(first, location, persons - first.persons.count());
     return true;
 }
 

@@ -72,8 +72,8 @@ private:
     /// can be shown; what fails after that still gives false.
     bool load(const QString& location, const std::function<void()>& ahead, QString* error);
     void loadInBackground(const QString& location, std::promise<QString> refusal);
-    bool loadFirst(const QString& location);
-    bool loadAll(const QString& location);
+    bool loadAll(const QString& location, const std::function<void()>& ahead);
+    bool enterFirst(const RegisterState& others, const QString& location);
     void enter(RegisterState& state, const QString& location, int missingPersons);
     bool catchUp(Announcements& announcements); ///< inside a transaction
 

@@ -22,6 +22,7 @@ struct RegisterState {
     bool loadAllButPersons(SqlStore& store);
     bool loadPersons(SqlStore& store);
     bool loadFirstPersons(SqlStore& store, int count);
+    RegisterState withoutPersons() const { return {{}, organizations, fields, devices, lastChange}; }
     bool loadFields(SqlStore& store);
     bool loadDevices(SqlStore& store);
 

@@ -9,6 +9,7 @@ namespace qarn_personMgr
 namespace Colors
 {
 constexpr QRgb Page = 0xff0b121e; ///< of the page, the table and its rows
+constexpr QRgb Focus = 0xff2c7dce;
 constexpr QRgb QuietText = 0xff6c7586;
 } // namespace Colors
 

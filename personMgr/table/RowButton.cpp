@@ -1,5 +1,7 @@
 #include "table/RowButton.h"
 
+#include "shared/Colors.h"
+
 #include <QPainter>
 #include <QPixmap>
 
@@ -8,7 +10,6 @@ namespace qarn_personMgr
 namespace
 {
 
-const QColor focusColor(0x2c, 0x7d, 0xce);
 constexpr qreal frameRadius = 2; // pixels
 
 } // namespace
@@ -29,7 +30,7 @@ void RowButton::paintEvent(QPaintEvent* /*event*/)
     if (!hasFocus())
         return;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(focusColor);
+    painter.setPen(QColor(Colors::Focus));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), frameRadius, frameRadius);
 }
 

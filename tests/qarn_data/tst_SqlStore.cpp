@@ -144,8 +144,8 @@ void tst_SqlStore::everyStatementRunsThroughQtSqlToo()
         const auto store = opened(location, std::move(dialect));
         RegisterState state;
         QVERIFY(state.load(*store));
-        QVERIFY(sameRecord(*state.persons.byId("full"), full));
-        QVERIFY(sameRecord(*state.persons.byId("bare"), bare));
+        QVERIFY(sameRecord(*state.persons.record(state.persons.recordNumber("full")), full));
+        QVERIFY(sameRecord(*state.persons.record(state.persons.recordNumber("bare")), bare));
         QVERIFY(!store->forEachRow("SELECT nothing", {}, {}));
     }
 }

@@ -3,12 +3,13 @@
 // call of a signal is ordered behind everything that its emitter did, a posted function behind what the
 // poster to the same object did, an emission behind the connecting; nothing else becomes ordered by them.
 
+#include "QtsOwn.h"
+
 #include <QDeadlineTimer>
 #include <QEvent>
 #include <QObject>
 #include <QThread>
 
-#include <dlfcn.h>
 #include <sanitizer/tsan_interface.h>
 
 namespace
@@ -27,15 +28,6 @@ struct QueuedCall {
 void* connectionsOf(const QObject* object)
 {
     return reinterpret_cast<char*>(const_cast<QObject*>(object)) + 2;
-}
-
-template <typename Function>
-Function* qtsOwn(const char* mangledName)
-{
-    void* function = dlsym(RTLD_NEXT, mangledName);
-    if (function == nullptr)
-        qFatal("no %s in Qt", mangledName);
-    return reinterpret_cast<Function*>(function);
 }
 
 /// An address that stands for the calls that are posted to, or by, an object.

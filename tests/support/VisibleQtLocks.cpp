@@ -2,13 +2,14 @@
 // report everything that they guard. These definitions stand before Qt's own in the dynamic linker's order:
 // they tell ThreadSanitizer, then do what Qt does. Built in only where QARN_SANITIZE_THREAD is on.
 
+#include "QtsOwn.h"
+
 #include <QDeadlineTimer>
 #include <QMutex>
 #include <QReadWriteLock>
 #include <QVector>
 #include <QWaitCondition>
 
-#include <dlfcn.h>
 #include <sanitizer/tsan_interface.h>
 
 namespace
@@ -16,15 +17,6 @@ namespace
 
 constexpr unsigned ForReading = __tsan_mutex_read_lock;
 constexpr unsigned ForWriting = 0;
-
-template <typename Function>
-Function* qtsOwn(const char* mangledName)
-{
-    void* function = dlsym(RTLD_NEXT, mangledName);
-    if (function == nullptr)
-        qFatal("no %s in Qt", mangledName);
-    return reinterpret_cast<Function*>(function);
-}
 
 void tellUnlock(void* lock, unsigned mode)
 {
